@@ -1,0 +1,96 @@
+#pragma once
+// The data files of one working directory. File names are compared without
+// regard to case: any spelling reaches the file that exists, and a new file
+// takes the spelling its caller gives. Nothing else in the program touches
+// paths. Failures are the run-time failures the platform would raise.
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fisc {
+
+// Reads a text file line by line through a large buffer. A line ends at
+// CR LF, a bare LF or a bare CR; the end is not part of the line.
+class LineReader {
+ public:
+  explicit LineReader(const std::filesystem::path& path);  // 53 when missing
+  LineReader(LineReader&&) noexcept;
+  LineReader& operator=(LineReader&&) noexcept;
+  ~LineReader();
+
+  // True when nothing is left to read.
+  bool Eof();
+  // The next line; reading past the end is failure 62.
+  std::string Line();
+  // The next line into `line`; false at the end, leaving `line` empty.
+  bool Next(std::string& line);
+
+ private:
+  bool Fill();
+  std::FILE* file_ = nullptr;
+  std::unique_ptr<char[]> buffer_;
+  std::size_t begin_ = 0, end_ = 0;
+  bool atEnd_ = false;
+};
+
+// Writes lines ended by CR LF through a large buffer. Close() flushes and
+// syncs the data to the disk; an unclosed writer still flushes when destroyed.
+class LineWriter {
+ public:
+  LineWriter(const std::filesystem::path& path, bool append);
+  LineWriter(LineWriter&&) noexcept;
+  LineWriter& operator=(LineWriter&&) noexcept;
+  ~LineWriter();
+
+  void Line(std::string_view text);
+  void Write(std::string_view bytes);  // no line end
+  void Close();
+
+ private:
+  std::FILE* file_ = nullptr;
+  std::unique_ptr<char[]> buffer_;
+};
+
+class Files {
+ public:
+  explicit Files(std::filesystem::path directory);
+
+  const std::filesystem::path& Directory() const { return directory_; }
+  // The path of the file with this name in any case, or the name as spelled
+  // when no such file exists.
+  std::filesystem::path Path(std::string_view name) const;
+
+  bool Exists(std::string_view name) const;
+  std::uintmax_t Length(std::string_view name) const;  // 53 when missing
+  void Delete(std::string_view name);                  // 53 when missing
+  void DeleteIfExists(std::string_view name);
+  void CreateEmpty(std::string_view name);  // replaces what was there
+  // Copies `from` over `to`; the target is replaced in one rename, so it is
+  // whole before and after.
+  void Copy(std::string_view from, std::string_view to);
+  // Renames `work` over `target` after syncing it: the end of every rewrite.
+  void Replace(std::string_view work, std::string_view target);
+
+  LineReader Read(std::string_view name) const;  // 53 when missing
+  LineWriter Write(std::string_view name);       // a new, empty file
+  LineWriter Append(std::string_view name);      // created when missing
+
+  // Names of the files of a directory below the working one ("" for it).
+  std::vector<std::string> List(std::string_view subdirectory = "") const;
+
+ private:
+  std::filesystem::path directory_;
+};
+
+// Copies one file to another path, replacing the target in one rename.
+// Failures: 53 for a missing source, 76 for a missing folder, 61 for a full disk.
+void CopyFileAtomic(const std::filesystem::path& from, const std::filesystem::path& to);
+
+// Resolves `name` inside `directory` without regard to case.
+std::filesystem::path ResolveName(const std::filesystem::path& directory, std::string_view name);
+
+}  // namespace fisc
