@@ -1,1 +1,52 @@
-int main() { return 0; }
+// fisc: the income tax sheets of one fiscal year.
+//   fisc [--workdir DIR] [--drive DIR]                 the window
+//   fisc --replay SCRIPT [--workdir DIR] [--drive DIR]  a script, without a window
+#include <cstring>
+#include <filesystem>
+#include <iostream>
+#include <string>
+
+#include "platform/qt/FrontEnd.h"
+#include "replay/Replay.h"
+
+namespace {
+
+int Usage() {
+  std::cerr << "usage: fisc [--replay SCRIPT] [--workdir DIR] [--drive DIR]\n";
+  return 2;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  namespace fs = std::filesystem;
+  fs::path script, workdir = fs::current_path(), drive;
+  bool replay = false;
+  for (int i = 1; i < argc; ++i) {
+    std::string arg = argv[i];
+    auto value = [&]() -> const char* { return i + 1 < argc ? argv[++i] : nullptr; };
+    const char* v = nullptr;
+    if (arg == "--replay" && (v = value())) {
+      replay = true;
+      script = v;
+    } else if (arg == "--workdir" && (v = value())) {
+      workdir = v;
+    } else if (arg == "--drive" && (v = value())) {
+      drive = v;
+    } else if (arg.rfind("--", 0) == 0) {
+      return Usage();
+    }
+    // Anything else belongs to the window toolkit ("-platform offscreen").
+  }
+  std::error_code ec;
+  if (!fs::is_directory(workdir, ec)) {
+    std::cerr << "fisc: no working directory " << workdir << '\n';
+    return 2;
+  }
+  workdir = fs::absolute(workdir);
+  // The fiscal unit's drive: a folder named "a" in the working directory
+  // unless another is given.
+  if (drive.empty()) drive = workdir / "a";
+  if (replay) return fisc::RunReplay({script, workdir, fs::absolute(drive)}, std::cout, std::cerr);
+  return fisc::RunWindow(argc, argv, {workdir, fs::absolute(drive)});
+}

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "platform/Failure.h"
 #include "records/CititorCampuri.h"
 #include "records/Numere.h"
-#include "platform/Failure.h"
 
 namespace fisc {
 namespace {

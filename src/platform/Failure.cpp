@@ -15,6 +15,7 @@ std::string FailureDescription(int number) {
     case err::TypeMismatch: return "Type mismatch";
     case err::BadFileName: return "Bad file name or number";
     case err::FileNotFound: return "File not found";
+    case err::FileAlreadyOpen: return "File already open";
     case err::FileAlreadyExists: return "File already exists";
     case err::DiskFull: return "Disk full";
     case err::InputPastEnd: return "Input past end of file";
@@ -22,7 +23,9 @@ std::string FailureDescription(int number) {
     case err::DiskNotReady: return "Disk not ready";
     case err::PathFileAccess: return "Path/File access error";
     case err::PathNotFound: return "Path not found";
+    case err::InvalidUseOfNull: return "Invalid use of Null";
     case err::InvalidPropertyValue: return "Invalid property value";
+    case err::InvalidArrayIndex: return "Invalid property array index";
     case err::TextReadOnly: return "'Text' property is read-only";
     default: return "Application-defined or object-defined error";
   }

@@ -109,13 +109,11 @@ bool LineReader::Next(std::string& line) {
   for (;;) {
     const char* start = buffer_.get() + begin_;
     std::size_t n = end_ - begin_;
-    const char* stop = nullptr;
-    for (std::size_t i = 0; i < n; ++i) {
-      if (start[i] == '\n' || start[i] == '\r') {
-        stop = start + i;
-        break;
-      }
-    }
+    // Lines end mostly in CR LF: find the LF, then any CR before it.
+    auto* lf = static_cast<const char*>(std::memchr(start, '\n', n));
+    std::size_t span = lf ? static_cast<std::size_t>(lf - start) : n;
+    auto* cr = static_cast<const char*>(std::memchr(start, '\r', span));
+    const char* stop = cr ? cr : lf;
     if (!stop) {
       line.append(start, n);
       begin_ = end_;

@@ -5,8 +5,8 @@
 namespace fisc {
 
 std::string_view CititorCampuri::Camp(std::string_view delimiter) {
-  std::size_t at = position_ <= record_.size() ? record_.find(delimiter, position_)
-                                               : std::string_view::npos;
+  std::size_t at =
+      position_ <= record_.size() ? record_.find(delimiter, position_) : std::string_view::npos;
   if (at == std::string_view::npos) Fail(err::InvalidCall);
   std::string_view field = record_.substr(position_, at - position_);
   position_ = at + delimiter.size();

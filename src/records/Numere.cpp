@@ -55,8 +55,10 @@ double Valoare(std::string_view text) {
       ++i;
       s = next();
     }
-    if (any) number += exponent;
-    else i = mark;
+    if (any)
+      number += exponent;
+    else
+      i = mark;
   }
   double value = std::strtod(number.c_str(), nullptr);
   return value == 0 ? 0.0 : value;

@@ -1,0 +1,38 @@
+#include "app/Aplicatie.h"
+
+#include "app/Schimb.h"
+
+namespace fisc {
+
+Aplicatie::Aplicatie(Platforma& platforma)
+    : p_(platforma), intro(desktop_, p_, stare_), fisaI(desktop_, p_, stare_), fisaII(desktop_) {
+  intro.Fisa_I = &fisaI;
+  fisaI.Intro = &intro;
+  fisaI.Fisa_II = &fisaII;
+  fisaII.Intro = &intro;
+}
+
+bool Aplicatie::Porneste() {
+  instanta_ = std::make_unique<InstantaUnica>(p_.files.Directory());
+  if (!instanta_->Singura()) return false;
+
+  // From here on a failing step is passed over. A load that fails after
+  // opening its file leaves the file open, and the later reads of the
+  // start-up then fail on it as well.
+  bool canalBlocat = false;
+  auto incarca = [&](auto&& load) {
+    try {
+      if (canalBlocat) Fail(err::FileAlreadyOpen);
+      load();
+    } catch (const RuntimeFailure& f) {
+      if (f.number() != err::FileNotFound) canalBlocat = true;
+    }
+  };
+  incarca([&] { IncarcaCuantum(p_.files, stare_.Parametri); });
+  incarca([&] { IncarcaImpozitar(p_.files, stare_.Impozitar); });
+  SchimbLaPornire(p_.files, stare_.Parametri.AnFiscal, canalBlocat);
+  desktop_.Dispatch([&] { intro.Show(); });
+  return true;
+}
+
+}  // namespace fisc

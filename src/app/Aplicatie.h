@@ -1,0 +1,42 @@
+#pragma once
+// The program as one object: its shared state, its screens and the start of
+// a run. The Qt front end and the replay driver each make one and act on its
+// desktop.
+#include <memory>
+
+#include "app/FisaI.h"
+#include "app/Intro.h"
+#include "app/Stare.h"
+#include "platform/Desktop.h"
+#include "platform/InstantaUnica.h"
+#include "platform/Platforma.h"
+#include "sheets/FisaII.h"
+
+namespace fisc {
+
+class Aplicatie {
+ public:
+  explicit Aplicatie(Platforma& platforma);
+
+  // The start of the program, up to the main window on the screen. False
+  // when another instance works in the same directory: the program ends at
+  // once without a message.
+  bool Porneste();
+
+  Desktop& Ecran() { return desktop_; }
+  Stare& StareComuna() { return stare_; }
+  Platforma& Servicii() { return p_; }
+
+ private:
+  Platforma& p_;
+  Desktop desktop_;
+  Stare stare_;
+  std::unique_ptr<InstantaUnica> instanta_;
+
+ public:
+  Intro intro;
+  FisaI fisaI;
+  FisaII fisaII;
+};
+
+}  // namespace fisc

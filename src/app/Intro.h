@@ -1,0 +1,49 @@
+#pragma once
+// The main window: the hub from which every screen opens. Closing it is the
+// only way to end the program.
+#include "platform/Form.h"
+#include "platform/Platforma.h"
+
+namespace fisc {
+
+struct Stare;
+class FisaI;
+
+class Intro : public Form {
+ public:
+  Intro(Desktop& desktop, Platforma& platforma, Stare& stare);
+
+  Control& EtAn;
+  Control& Command1;
+  Control& Command3;
+  Control& Command5;
+  Control& Command2;
+  Control& Command11;
+  Control& Tabel5;
+  Control& Check1;
+  Control& Command9;
+  Control& But_salvari;
+  Control& b_salv;
+  Control& b_rest;
+  Control& Command6;
+  Control& Command8;
+  Control& Command10;
+  Control& Command7;
+  Control& EtListari;
+  Control& EtAsteptati;
+  Control& EtData;
+  Control& EtNota;
+
+  FisaI* Fisa_I = nullptr;
+
+ private:
+  // Clears Check1, which deletes the alphabetical copies of the sheets.
+  void GolesteSortare();
+  // The date probe of the buttons that read dates; false when it failed.
+  bool DataCorecta();
+
+  Platforma& p_;
+  Stare& s_;
+};
+
+}  // namespace fisc

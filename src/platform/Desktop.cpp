@@ -1,0 +1,131 @@
+#include "platform/Desktop.h"
+
+#include <algorithm>
+
+namespace fisc {
+
+void Desktop::Register(Form& form) { forms_.push_back(&form); }
+
+Form* Desktop::FindForm(std::string_view name) const {
+  for (Form* f : forms_)
+    if (f->Name() == name) return f;
+  return nullptr;
+}
+
+void Desktop::MoveFocus(Control* target) {
+  ++focusMoves_;
+  if (moving_) {
+    redirect_ = target;
+    return;
+  }
+  if (focused_ == target) return;
+  Control* old = focused_;
+  redirect_ = target;
+  if (old && old->LostFocus) {
+    moving_ = true;
+    try {
+      old->LostFocus();
+    } catch (...) {
+      moving_ = false;
+      throw;
+    }
+    moving_ = false;
+  }
+  Control* dest = redirect_;
+  if (dest && !dest->CanTakeFocus()) dest = old && old->CanTakeFocus() ? old : nullptr;
+  focused_ = dest;
+  if (dest && dest != old && dest->GotFocus) dest->GotFocus();
+}
+
+void Desktop::FormHidden(Form& form) {
+  if (focused_ && &focused_->Owner() == &form) focused_ = nullptr;
+}
+
+void Desktop::UserFocus(Control& control) {
+  Dispatch([&] {
+    if (control.CanTakeFocus()) MoveFocus(&control);
+  });
+}
+
+void Desktop::UserClick(Control& control) {
+  Dispatch([&] {
+    if (!control.Shown() || !control.Enabled()) return;
+    if (control.CanTakeFocus()) MoveFocus(&control);
+    if (ended_) return;
+    switch (control.Kind()) {
+      case ControlKind::CheckBox: control.SetValue(control.Value() ? 0 : 1); break;
+      case ControlKind::OptionButton: control.SetValue(1); break;
+      default:
+        if (control.Click) control.Click();
+    }
+  });
+}
+
+bool Desktop::UserType(std::string_view text) {
+  Control* c = focused_;
+  if (!c || (c->Kind() != ControlKind::TextBox &&
+             !(c->Kind() == ControlKind::ComboBox && !c->ListOnly())))
+    return false;
+  if (c->MaxLength() > 0 && text.size() > static_cast<std::size_t>(c->MaxLength()))
+    text = text.substr(0, static_cast<std::size_t>(c->MaxLength()));
+  Dispatch([&] { c->SetText(text); });
+  return true;
+}
+
+void Desktop::UserEnter() {
+  Dispatch([&] {
+    Control* c = focused_;
+    if (!c) return;
+    if (c->Kind() == ControlKind::Button) {
+      if (c->Click) c->Click();
+      return;
+    }
+    int key = kKeyEnter;
+    if (c->KeyPress) c->KeyPress(key);
+  });
+}
+
+void Desktop::UserTab() {
+  Dispatch([&] {
+    Control* c = focused_;
+    if (!c) return;
+    auto order = c->Owner().TabOrder();
+    if (order.empty()) return;
+    auto it = std::find(order.begin(), order.end(), c);
+    Control* next = it == order.end() || it + 1 == order.end() ? order.front() : *(it + 1);
+    MoveFocus(next);
+  });
+}
+
+void Desktop::UserSelect(Control& list, int index) {
+  Dispatch([&] {
+    if (list.CanTakeFocus()) MoveFocus(&list);
+    if (ended_) return;
+    if (list.ListIndex() == index) {
+      if (list.Click) list.Click();
+    } else {
+      list.SetListIndex(index);
+    }
+  });
+}
+
+void Desktop::UserClose(Form& form) {
+  Dispatch([&] {
+    bool cancel = false;
+    if (form.Closing) form.Closing(cancel);
+    if (!cancel) form.Hide();
+  });
+}
+
+void Desktop::Dispatch(const std::function<void()>& action) {
+  if (ended_) return;
+  try {
+    action();
+  } catch (const RuntimeFailure& failure) {
+    fatal_ = failure;
+    ended_ = true;
+    if (OnFatal) OnFatal(failure);
+  }
+}
+
+}  // namespace fisc

@@ -1,0 +1,41 @@
+#include "tax/Impozit.h"
+
+#include <cmath>
+
+#include "platform/Failure.h"
+#include "records/Numere.h"
+
+namespace fisc {
+
+namespace {
+
+const RandImpozit& Rand(const TabelImpozit& tabel, std::size_t r) {
+  if (r >= tabel.size()) Fail(err::SubscriptOutOfRange);
+  return tabel[r];
+}
+
+// A comparison with a null cell is not true, so the walk stops on it.
+bool LessThan(double x, const std::optional<double>& cell) { return cell && x < *cell; }
+
+double Number(const std::optional<double>& cell) {
+  if (!cell) Fail(err::InvalidUseOfNull);
+  return *cell;
+}
+
+}  // namespace
+
+double ImpozitLuna(short& luna, double& suma, const TabelImpozit& tabel) {
+  if (suma < 0) suma = 0;
+  std::size_t r = 0;
+  // Groups stand in descending order of month: the first row not later than
+  // `luna` opens the table in force, and its limits descend from there.
+  while (LessThan(luna, Rand(tabel, r)[0])) ++r;
+  while (LessThan(suma, Rand(tabel, r)[1])) ++r;
+  const RandImpozit& rand = tabel[r];
+  // The last three digits of the base never count.
+  double trunchiat = std::floor(suma / 1000) * 1000;
+  double impozit = Number(rand[3]) + (Number(rand[4]) / 100) * (trunchiat - Number(rand[1]) + 1);
+  return Rotunjeste(impozit);
+}
+
+}  // namespace fisc
