@@ -42,15 +42,15 @@ FisaI::FisaI(Desktop& desktop, Platforma& platforma, Stare& stare)
       JudP((AdaugaAdresa(0, 10, 26, 250),
             Add(ControlKind::ComboBox, "JudP").SetListOnly(true).At(460, 26, 200, 22).In(Frame1))),
       Ok_Fisa_II((AdaugaAdresa(1, 10, 56, 330), AdaugaAdresa(2, 460, 56, 100),
-                  AdaugaAdresa(3, 10, 86, 80), AdaugaAdresa(4, 10, 116, 70),
-                  AdaugaAdresa(5, 180, 116, 70), AdaugaAdresa(6, 350, 116, 70),
-                  AdaugaAdresa(7, 520, 116, 70), AdaugaAdresa(8, 10, 146, 30),
+                  AdaugaAdresa(3, 10, 86, 80), AdaugaAdresa(4, 10, 116, 60),
+                  AdaugaAdresa(5, 175, 116, 60), AdaugaAdresa(6, 340, 116, 60),
+                  AdaugaAdresa(7, 505, 116, 60), AdaugaAdresa(8, 10, 146, 30),
                   AdaugaAdresa(9, 180, 146, 120), AdaugaAdresa(10, 10, 176, 400),
                   Button(*this, "Ok_Fisa_II", "Date identificare &angajat", 250, 396, 200, 36))),
       p_(platforma),
       s_(stare) {
   SetSize(700, 450);
-  Label(*this, "EtTitlu", "I. Date de identificare angajator", 20, 10, 660, 24);
+  Label(*this, "EtTitlu", "I. Date de identificare angajator", 20, 8, 660, 26).SetFont(12, true);
   Label(*this, "EtCodP", "Cod angajator", 20, 44, 140);
   Label(*this, "EtDenP", "Denumire", 20, 74, 140);
   Label(*this, "EtNumeP", "Nume", 20, 104, 140);

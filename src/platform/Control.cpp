@@ -205,6 +205,12 @@ Control& Control::At(int x, int y, int w, int h) {
   return *this;
 }
 
+Control& Control::SetFont(int size, bool bold) {
+  fontSize_ = size;
+  bold_ = bold;
+  return *this;
+}
+
 Control& Control::SetTabStop(bool on) {
   tabStop_ = on;
   return *this;

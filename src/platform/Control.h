@@ -88,6 +88,10 @@ class Control {
   Control& In(Control& frame);
   const Rect& Place() const { return place_; }
   Control& At(int x, int y, int w, int h);
+  // A heading's font: a point size (0 the window's own) and weight.
+  Control& SetFont(int size, bool bold);
+  int FontSize() const { return fontSize_; }
+  bool Bold() const { return bold_; }
   int TabIndex() const { return tabIndex_; }
   bool TabStop() const { return tabStop_; }
   Control& SetTabStop(bool on);
@@ -119,6 +123,8 @@ class Control {
   int listIndex_ = -1;
   Control* container_ = nullptr;
   Rect place_;
+  int fontSize_ = 0;
+  bool bold_ = false;
   int tabIndex_ = 0;
   bool tabStop_ = true;
 };

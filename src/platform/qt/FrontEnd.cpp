@@ -1,7 +1,41 @@
 #include "platform/qt/FrontEnd.h"
 
+#include <QApplication>
+
+#include "app/Aplicatie.h"
+#include "platform/qt/QtServices.h"
+#include "platform/qt/ScreenWindows.h"
+
 namespace fisc {
 
-int RunWindow(int, char**, const WindowOptions&) { return 1; }
+int RunWindow(int argc, char** argv, const WindowOptions& options) {
+  QApplication qt(argc, argv);
+  // The program ends when its main window closes, and only then: the other
+  // windows come and go while it runs.
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  Files files(options.workdir);
+  QtDialogs dialogs;
+  Clock clock;
+  QtLauncher launcher(files);
+  Drive drive(options.drive);
+  Platforma platforma{files, dialogs, clock, launcher, drive};
+  Aplicatie app(platforma);
+
+  int status = 0;
+  // The run-time report ends the program at once, without the exchange of
+  // files that closing the main window does.
+  app.Ecran().OnFatal = [&status](const RuntimeFailure& failure) {
+    ShowFatal(failure.number(), failure.description());
+    status = 1;
+  };
+  if (!app.Porneste()) return 0;
+  if (app.Ecran().Ended()) return status;
+
+  ScreenWindows windows(app.Ecran());
+  windows.OnEnded = [&status] { QApplication::exit(status); };
+  windows.Redraw();
+  return QApplication::exec();
+}
 
 }  // namespace fisc
