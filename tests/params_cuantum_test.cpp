@@ -10,28 +10,11 @@
 namespace fisc {
 namespace {
 
-std::string Lines(std::initializer_list<std::string> lines) {
-  std::string s;
-  for (const auto& l : lines) s += l + "\r\n";
-  return s;
-}
-
-// The number of the failure that `action` ends in, 0 for none.
-template <typename F>
-int FailureOf(F action) {
-  try {
-    action();
-  } catch (const RuntimeFailure& f) {
-    return f.number();
-  }
-  return 0;
-}
-
 class Cuantum : public ::testing::Test {
  protected:
   int Load(const std::string& bytes) {
     test::WriteBytes(dir / "Cuantum.txt", bytes);
-    return FailureOf([&] { IncarcaCuantum(files, p); });
+    return test::FailureOf([&] { IncarcaCuantum(files, p); });
   }
   const std::string delivered = test::ReadBytes(test::DataDir() / "Cuantum.txt");
   test::TempDir dir;
@@ -54,8 +37,8 @@ TEST_F(Cuantum, PlacesRowsByTheirMonthAndConvertsAsTheFieldsDo) {
   // Rows in any order; a month without a row keeps its value; the first day
   // gets its leading zero; the last line is never parsed, whatever it holds.
   p.DedLuna[5] = 7;
-  ASSERT_EQ(Load(Lines({"02002x,3,31", "13,1 800 000,3,1,0.50,,0.15,abc,", " 2,1500000,0.50,1,x,",
-                        " 1,12a,,,,", "12,1,1,1,1,"})),
+  ASSERT_EQ(Load(test::Lines({"02002x,3,31", "13,1 800 000,3,1,0.50,,0.15,abc,",
+                              " 2,1500000,0.50,1,x,", " 1,12a,,,,", "12,1,1,1,1,"})),
             0);
   EXPECT_EQ(p.AnFiscal + " " + p.PrimaZi, "2002 03");
   EXPECT_EQ(p.DedLuna[12], 1800000);
@@ -75,20 +58,21 @@ TEST_F(Cuantum, FailuresKeepWhatWasReadBeforeThem) {
 
   files.Delete("Cuantum.txt");
   ParametriAn before = p;
-  EXPECT_EQ(FailureOf([&] { IncarcaCuantum(files, p); }), err::FileNotFound);
+  EXPECT_EQ(test::FailureOf([&] { IncarcaCuantum(files, p); }), err::FileNotFound);
   EXPECT_EQ(p.AnFiscal, before.AnFiscal);
 
   p = {};
-  EXPECT_EQ(Load(Lines({"2002,03,31", " 1,1600000,0.5,0.5,0.5", "eof"})), err::InvalidCall);
+  EXPECT_EQ(Load(test::Lines({"2002,03,31", " 1,1600000,0.5,0.5,0.5", "eof"})), err::InvalidCall);
   EXPECT_EQ(p.AnFiscal, "2002");
-  EXPECT_EQ(Load(Lines({"2002,03,31", " 1,1600000,0.5,0.5,0.5,", " 0,1,1,1,1,", "eof"})),
+  EXPECT_EQ(Load(test::Lines({"2002,03,31", " 1,1600000,0.5,0.5,0.5,", " 0,1,1,1,1,", "eof"})),
             err::SubscriptOutOfRange);
   EXPECT_EQ(p.DedLuna[0], 1600000);
   // Above 13 the row is read as the annual one before its month fails.
-  EXPECT_EQ(Load(Lines({"2002,03,31", "14,1,2,3,4,", "eof"})), err::InvalidCall);
-  EXPECT_EQ(Load(Lines({"2002,03,31", "14,1,2,3,4,5,6,7,", "eof"})), err::SubscriptOutOfRange);
+  EXPECT_EQ(Load(test::Lines({"2002,03,31", "14,1,2,3,4,", "eof"})), err::InvalidCall);
+  EXPECT_EQ(Load(test::Lines({"2002,03,31", "14,1,2,3,4,5,6,7,", "eof"})),
+            err::SubscriptOutOfRange);
   // A line behind the marker makes the marker a row.
-  EXPECT_EQ(Load(Lines({"2002,03,31", "eof", ""})), err::InvalidCall);
+  EXPECT_EQ(Load(test::Lines({"2002,03,31", "eof", ""})), err::InvalidCall);
 }
 
 TEST_F(Cuantum, SaveWritesTheFieldsAsTheyStandAndMakesThemTheParameters) {
@@ -114,7 +98,7 @@ TEST_F(Cuantum, SaveWritesTheFieldsAsTheyStandAndMakesThemTheParameters) {
   // A file removed meanwhile stops the save before anything changes.
   files.Delete("Cuantum.txt");
   c.AnF = "2004";
-  EXPECT_EQ(FailureOf([&] { SalveazaCuantum(files, c, saved); }), err::FileNotFound);
+  EXPECT_EQ(test::FailureOf([&] { SalveazaCuantum(files, c, saved); }), err::FileNotFound);
   EXPECT_EQ(saved.AnFiscal, "2003");
   EXPECT_FALSE(files.Exists("Cuantum.txt"));
 }

@@ -10,12 +10,6 @@
 namespace fisc {
 namespace {
 
-std::string Lines(std::initializer_list<std::string> lines) {
-  std::string s;
-  for (const auto& l : lines) s += l + "\r\n";
-  return s;
-}
-
 class Impozitar : public ::testing::Test {
  protected:
   // Loads `bytes` as the table file; the failure number, 0 for none.
@@ -43,13 +37,14 @@ class Impozitar : public ::testing::Test {
 
 TEST_F(Impozitar, ReadsFiveNumbersALineUpToTheMarker) {
   tabel[7][0] = 3;  // a load starts from an empty table
-  EXPECT_EQ(Load(Lines({" 5,1800001,4600000,324000,23", "1,0,1800000,0,18.5,99", "eof", "x"})), 0);
+  EXPECT_EQ(
+      Load(test::Lines({" 5,1800001,4600000,324000,23", "1,0,1800000,0,18.5,99", "eof", "x"})), 0);
   EXPECT_EQ(RowsInUse(), 2);
   EXPECT_EQ(tabel[0], (RandImpozit{5, 1800001, 4600000, 324000, 23}));
   EXPECT_EQ(tabel[1], (RandImpozit{1, 0, 1800000, 0, 18.5}));  // a sixth field is not read
   EXPECT_FALSE(tabel[7][0]);
 
-  EXPECT_EQ(Load(Lines({"eof"})), 0);
+  EXPECT_EQ(Load(test::Lines({"eof"})), 0);
   EXPECT_EQ(RowsInUse(), 0);
 }
 
@@ -59,15 +54,15 @@ TEST_F(Impozitar, FailuresKeepTheRowsReadBeforeThem) {
   EXPECT_FALSE(tabel[0][0]);
 
   EXPECT_EQ(Load(""), err::InputPastEnd);
-  EXPECT_EQ(Load(Lines({"13,0,1,0,18", " 1,0,1,0,18"})), err::InputPastEnd);
+  EXPECT_EQ(Load(test::Lines({"13,0,1,0,18", " 1,0,1,0,18"})), err::InputPastEnd);
   EXPECT_EQ(RowsInUse(), 2);
 
   // The marker is the exact lower-case word alone on its line.
   for (const char* marker : {"eof ", "EOF"}) {
-    EXPECT_EQ(Load(Lines({"13,0,1,0,18", marker})), err::InvalidCall) << marker;
+    EXPECT_EQ(Load(test::Lines({"13,0,1,0,18", marker})), err::InvalidCall) << marker;
     EXPECT_EQ(RowsInUse(), 1);
   }
-  EXPECT_EQ(Load(Lines({"13,0,1,0,18", " 1,0,1,0", "eof"})), err::InvalidCall);
+  EXPECT_EQ(Load(test::Lines({"13,0,1,0,18", " 1,0,1,0", "eof"})), err::InvalidCall);
   EXPECT_EQ(RowsInUse(), 2);  // the short line's first fields are in
   EXPECT_FALSE(tabel[1][4]);
 }
@@ -92,23 +87,19 @@ TEST_F(Impozitar, LoadAndSaveOfTheDeliveredTableGiveTheSameBytes) {
 }
 
 TEST_F(Impozitar, SaveWritesMonthsInTwoPlacesUpToTheFirstEmptyRowAndANewComment) {
-  ASSERT_EQ(Load(Lines({"1,0,1800000,0,18", "eof", "old comment"})), 0);
+  ASSERT_EQ(Load(test::Lines({"1,0,1800000,0,18", "eof", "old comment"})), 0);
   tabel[1] = RandImpozit{13, 0.5, std::nullopt, 2, 3};
   tabel[3] = RandImpozit{12, 0, 0, 0, 0};  // behind the empty row 2: not written
   SalvImpozit(files, tabel);
   std::string delivered = test::ReadBytes(test::DataDir() / "Impozitar.txt");
-  EXPECT_EQ(test::ReadBytes(dir / "Impozitar.txt"),
-            Lines({" 1,0,1800000,0,18", "13,0.5,,2,3"}) + delivered.substr(delivered.find("eof")));
+  EXPECT_EQ(
+      test::ReadBytes(dir / "Impozitar.txt"),
+      test::Lines({" 1,0,1800000,0,18", "13,0.5,,2,3"}) + delivered.substr(delivered.find("eof")));
 }
 
 TEST_F(Impozitar, SaveWithTheTableFileGoneLeavesTheNewTableInTheWorkFile) {
   tabel[0] = RandImpozit{1, 0, 1, 0, 18};
-  try {
-    SalvImpozit(files, tabel);
-    FAIL() << "no failure";
-  } catch (const RuntimeFailure& f) {
-    EXPECT_EQ(f.number(), err::FileNotFound);
-  }
+  EXPECT_EQ(test::FailureOf([&] { SalvImpozit(files, tabel); }), err::FileNotFound);
   EXPECT_FALSE(files.Exists("Impozitar.txt"));
   EXPECT_EQ(test::ReadBytes(dir / "Temporar.txt").substr(0, 18), " 1,0,1,0,18\r\neof\r\n");
 }

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "support/TestSupport.h"
+
 #include "platform/Desktop.h"
 #include "platform/Failure.h"
 #include "platform/Layout.h"
@@ -85,12 +87,7 @@ TEST_F(DesktopTest, TypingStopsAtTheMaximumLength) {
 
 TEST_F(DesktopTest, FocusOnAHiddenOrDisabledControlIsFailure5) {
   s.B.SetEnabled(false);
-  try {
-    s.B.SetFocus();
-    FAIL();
-  } catch (const RuntimeFailure& f) {
-    EXPECT_EQ(f.number(), err::InvalidCall);
-  }
+  EXPECT_EQ(test::FailureOf([&] { s.B.SetFocus(); }), err::InvalidCall);
   desk.UserTab();  // the disabled box is passed over
   EXPECT_EQ(desk.Focused(), &s.C);
 }
@@ -101,12 +98,7 @@ TEST_F(DesktopTest, AListOnlyComboRefusesATextNotInTheList) {
   s.L.SetText("arad");
   EXPECT_EQ(s.L.ListIndex(), 1);
   EXPECT_EQ(s.L.Text(), "ARAD");
-  try {
-    s.L.SetText("NOWHERE");
-    FAIL();
-  } catch (const RuntimeFailure& f) {
-    EXPECT_EQ(f.number(), err::TextReadOnly);
-  }
+  EXPECT_EQ(test::FailureOf([&] { s.L.SetText("NOWHERE"); }), err::TextReadOnly);
 }
 
 TEST_F(DesktopTest, SelectRunsTheClickHandlerEvenForTheChosenEntry) {

@@ -26,12 +26,7 @@ TEST(LineReader, ReadingPastTheEndIsFailure62) {
   LineReader in = files.Read("a.txt");
   EXPECT_EQ(in.Line(), "only");
   EXPECT_TRUE(in.Eof());
-  try {
-    in.Line();
-    FAIL();
-  } catch (const RuntimeFailure& f) {
-    EXPECT_EQ(f.number(), err::InputPastEnd);
-  }
+  EXPECT_EQ(test::FailureOf([&] { in.Line(); }), err::InputPastEnd);
 }
 
 TEST(LineReader, ALineLongerThanTheBufferComesWhole) {
@@ -67,12 +62,7 @@ TEST(Files, MissingFilesAreFailure53) {
        {+[](Files& f) { f.Delete("none.txt"); }, +[](Files& f) { (void)f.Read("none.txt"); },
         +[](Files& f) { f.Copy("none.txt", "b.txt"); },
         +[](Files& f) { (void)f.Length("none.txt"); }}) {
-    try {
-      action(files);
-      ADD_FAILURE();
-    } catch (const RuntimeFailure& f) {
-      EXPECT_EQ(f.number(), err::FileNotFound);
-    }
+    EXPECT_EQ(test::FailureOf([&] { action(files); }), err::FileNotFound);
   }
   EXPECT_FALSE(std::filesystem::exists(dir / "b.txt"));
 }

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "support/TestSupport.h"
+
 #include "platform/Failure.h"
 #include "records/CititorCampuri.h"
 #include "records/Numere.h"
@@ -64,12 +66,7 @@ TEST(CititorCampuri, MovesPastEachDelimiterAndLeavesTheRestToTheLastField) {
 
 TEST(CititorCampuri, AMissingDelimiterFailsTheRead) {
   CititorCampuri r("123");
-  try {
-    r.Camp(delim::Bare);
-    FAIL();
-  } catch (const RuntimeFailure& f) {
-    EXPECT_EQ(f.number(), 5);
-  }
+  EXPECT_EQ(test::FailureOf([&] { r.Camp(delim::Bare); }), 5);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "support/TestSupport.h"
+
 #include "platform/Failure.h"
 #include "sheets/FisiereSet.h"
 #include "sheets/RecordDed.h"
@@ -197,12 +199,7 @@ TEST(RecordDed, ReadsMarksNormalisedAndTheLastCoefficientToTheEnd) {
 TEST(TabelDed, ATwentyFirstRowIsOutOfRange) {
   TabelDed t;
   t(20, ded::Coloane) = "x";
-  try {
-    t(21, 1) = "x";
-    FAIL();
-  } catch (const RuntimeFailure& e) {
-    EXPECT_EQ(e.number(), err::SubscriptOutOfRange);
-  }
+  EXPECT_EQ(test::FailureOf([&] { t(21, 1) = "x"; }), err::SubscriptOutOfRange);
 }
 
 TEST(FisiereSet, NamesThePerYearFiles) {

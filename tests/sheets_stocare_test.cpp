@@ -184,12 +184,8 @@ TEST_F(Stocare, IncarcaDeduceriFailsOnATwentyFirstRow) {
   Scrie("Deduceri.txt", bloc);
   TabelDed ded;
   short nr = 0;
-  try {
-    IncarcaDeduceri(files_, kCod, ded, nr, pozitii_);
-    FAIL();
-  } catch (const RuntimeFailure& e) {
-    EXPECT_EQ(e.number(), err::SubscriptOutOfRange);
-  }
+  EXPECT_EQ(test::FailureOf([&] { IncarcaDeduceri(files_, kCod, ded, nr, pozitii_); }),
+            err::SubscriptOutOfRange);
   EXPECT_EQ(nr, 21);
   EXPECT_EQ(ded(20, 1), "20");
 }

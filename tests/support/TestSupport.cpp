@@ -31,6 +31,12 @@ void WriteBytes(const std::filesystem::path& file, std::string_view bytes) {
   out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
+std::string Lines(std::initializer_list<std::string> lines) {
+  std::string s;
+  for (const auto& l : lines) s += l + "\r\n";
+  return s;
+}
+
 std::filesystem::path DataDir() { return FISC_DATA_DIR; }
 
 }  // namespace fisc::test

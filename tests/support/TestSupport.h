@@ -2,8 +2,11 @@
 // Helpers shared by the test files: a fresh working directory per test and
 // reading or writing whole files as bytes.
 #include <filesystem>
+#include <initializer_list>
 #include <string>
 #include <string_view>
+
+#include "platform/Failure.h"
 
 namespace fisc::test {
 
@@ -23,6 +26,20 @@ class TempDir {
 
 std::string ReadBytes(const std::filesystem::path& file);
 void WriteBytes(const std::filesystem::path& file, std::string_view bytes);
+// Lines joined as a file holds them, each ended by CR LF.
+std::string Lines(std::initializer_list<std::string> lines);
+
+// The number of the run-time failure that `action` ends in, 0 for none.
+template <typename F>
+int FailureOf(F&& action) {
+  try {
+    action();
+  } catch (const RuntimeFailure& f) {
+    return f.number();
+  }
+  return 0;
+}
+
 // The delivered data folder (Cuantum.txt, Impozitar.txt).
 std::filesystem::path DataDir();
 
