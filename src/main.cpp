@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/qt/FrontEnd.h"
+#include "platform/qt/QtPrinter.h"
 #include "replay/Replay.h"
 
 namespace {
@@ -47,6 +48,8 @@ int main(int argc, char** argv) {
   // The fiscal unit's drive: a folder named "a" in the working directory
   // unless another is given.
   if (drive.empty()) drive = workdir / "a";
-  if (replay) return fisc::RunReplay({script, workdir, fs::absolute(drive)}, std::cout, std::cerr);
+  if (replay)
+    return fisc::RunReplay({script, workdir, fs::absolute(drive), fisc::MakePdfPrinter}, std::cout,
+                           std::cerr);
   return fisc::RunWindow(argc, argv, {workdir, fs::absolute(drive)});
 }

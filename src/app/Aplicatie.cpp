@@ -5,11 +5,24 @@
 namespace fisc {
 
 Aplicatie::Aplicatie(Platforma& platforma)
-    : p_(platforma), intro(desktop_, p_, stare_), fisaI(desktop_, p_, stare_), fisaII(desktop_) {
+    : p_(platforma),
+      intro(desktop_, p_, stare_),
+      fisaI(desktop_, p_, stare_),
+      fisaII(desktop_, p_, stare_) {
   intro.Fisa_I = &fisaI;
   fisaI.Intro = &intro;
   fisaI.Fisa_II = &fisaII;
   fisaII.Intro = &intro;
+  fisaII.Fisa1_F = &fisa1F;
+  fisaII.Fisa2 = &fisa2;
+  fisaII.frmGasit = &frmGasit;
+  fisa1F.Fisa_II = &fisaII;
+  fisa2.Fisa_II = &fisaII;
+  frmGasit.Fisa_II = &fisaII;
+  intro.Borderou = &lisBord;
+  intro.Centralizator = &listabIV;
+  intro.ListareF1 = &lisFise1;
+  intro.ListareF2 = &lisFise2;
 }
 
 bool Aplicatie::Porneste() {

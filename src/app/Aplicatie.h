@@ -7,10 +7,17 @@
 #include "app/FisaI.h"
 #include "app/Intro.h"
 #include "app/Stare.h"
+#include "listings/Borderou.h"
+#include "listings/Centralizator.h"
+#include "listings/LisFise1.h"
+#include "listings/LisFise2.h"
 #include "platform/Desktop.h"
 #include "platform/InstantaUnica.h"
 #include "platform/Platforma.h"
 #include "sheets/FisaII.h"
+#include "sheets/FrmGasit.h"
+#include "tax/Fisa1F.h"
+#include "tax/Fisa2.h"
 
 namespace fisc {
 
@@ -37,6 +44,13 @@ class Aplicatie {
   Intro intro;
   FisaI fisaI;
   FisaII fisaII;
+  Fisa1F fisa1F{desktop_, p_, stare_};
+  Fisa2 fisa2{desktop_, p_, stare_};
+  FrmGasit frmGasit{desktop_, p_, stare_};
+  LisBord lisBord{desktop_, p_, stare_};
+  ListabIV listabIV{desktop_, p_, stare_};
+  LisFise1 lisFise1{desktop_, p_, stare_};
+  LisFise2 lisFise2{desktop_, p_, stare_};
 };
 
 }  // namespace fisc

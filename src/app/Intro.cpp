@@ -1,8 +1,16 @@
 #include "app/Intro.h"
 
+#include "app/Discheta.h"
 #include "app/FisaI.h"
 #include "app/Schimb.h"
+#include "app/Sortare.h"
 #include "app/Stare.h"
+#include "listings/Borderou.h"
+#include "listings/Centralizator.h"
+#include "listings/LisFise1.h"
+#include "listings/LisFise2.h"
+#include "listings/Randuri.h"
+#include "listings/Tabel5.h"
 #include "params/Cuantum.h"
 #include "platform/Desktop.h"
 #include "platform/Layout.h"
@@ -16,7 +24,7 @@ namespace fisc {
 Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
     : Form(desktop, "Intro",
            "Impozitul pe venit (varianta distribuita de Zelvan) - versiunea 2.1 /2002"),
-      EtAn(Label(*this, "EtAn", " 2   0   0   2", 300, 8, 160, 28)),
+      EtAn(Label(*this, "EtAn", " 2   0   0   2", 290, 4, 200, 36).SetFont(18, true)),
       Command1(Button(*this, "Command1", "Fise fiscale (preluari, modificari)", 150, 48, 300, 44)
                    .SetToolTip("Numai pentru fisiere verificate (cu structura corecta).")),
       Command3(Button(*this, "Command3", "Fisa 1 ", 480, 72, 125, 32)),
@@ -35,7 +43,7 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
                       "Prelua-  re si         V           E            R            I        "
                       "     F            I            C           A           R           E  "
                       "fisiere   . TXT       sau     . DBF       din        alte      aplic.",
-                      20, 48, 110, 330)
+                      40, 48, 72, 330)
                    .SetToolTip("Verificari fisiere preluate din alte aplicatii (Dbase,Fox,Paradox, "
                                "etc.) ")),
       But_salvari(Button(*this, "But_salvari",
@@ -55,7 +63,7 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
                        "Vizualizare / Actualizare  deducere pers. de baza si coef.de deducere", 150,
                        306, 300, 44)),
       Command7(Button(*this, "Command7", "Help", 150, 358, 300, 32)),
-      EtListari(Label(*this, "EtListari", "L I S T A R I", 480, 48, 260, 20)),
+      EtListari(Label(*this, "EtListari", "L I S T A R I", 480, 44, 260, 24).SetFont(11, true)),
       EtAsteptati(Label(*this, "EtAsteptati", "Asteptati confirmarea terminarii operatiei !", 20,
                         384, 300, 20)),
       EtData(Label(*this, "EtData",
@@ -69,10 +77,12 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
                    "multe contracte de munca la acelasi angajator se impune ca, in lunile din "
                    "afara contractelor, coeficientii totali sa fie nuli.",
                    20, 448, 720, 72)),
+      Combo1(Add(ControlKind::ComboBox, "Combo1").SetSorted(true).At(480, 300, 260, 22)),
       p_(platforma),
       s_(stare) {
   SetSize(760, 540);
   EtAsteptati.SetVisible(false);
+  Combo1.SetVisible(false);
 
   Command1.Click = [this] {
     GolesteSortare();
@@ -119,9 +129,35 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
       p_.launcher.Start("notepad", "help.txt");
   };
 
-  Check1.Click = [this] {
-    p_.files.DeleteIfExists(fisier::Ff1Sort1);
-    p_.files.DeleteIfExists(fisier::Ff2Sort1);
+  Check1.Click = [this] { PregatesteSortare(p_.files, Combo1, Check1.Value() == 1); };
+
+  // The listings leave Check1 as it is: they follow the alphabetical copies.
+  Command2.Click = [this] { Borderou->Deschide(); };
+  Command11.Click = [this] { Centralizator->Deschide(); };
+  // A screen already on view keeps what was chosen on it.
+  Command3.Click = [this] {
+    if (ListareF1->Visible())
+      ListareF1->Show();
+    else
+      ListareF1->Deschide();
+  };
+  Command5.Click = [this] {
+    if (ListareF2->Visible())
+      ListareF2->Show();
+    else
+      ListareF2->Deschide();
+  };
+  Tabel5.Click = [this] {
+    Warn(p_.dialogs, AvertizareVizualizare, "");
+    StareListare& l = s_.Listare;
+    if (ScrieTabel5(p_.files, Combo1, l, s_.Fisa.CodCurent, s_.Parametri.AnFiscal))
+      ArataSiListeaza(p_.launcher, p_.files, p_.printer, l.LiniePagina, "tab5.txt", ListeazaTabel);
+  };
+
+  But_salvari.Click = [this] {
+    GolesteSortare();
+    SalveazaPeDischeta(p_, s_.Parametri.AnFiscal);
+    Command1.SetFocus();
   };
 
   Closing = [this](bool&) {

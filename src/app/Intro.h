@@ -8,6 +8,10 @@ namespace fisc {
 
 struct Stare;
 class FisaI;
+class LisBord;
+class ListabIV;
+class LisFise1;
+class LisFise2;
 
 class Intro : public Form {
  public:
@@ -33,8 +37,14 @@ class Intro : public Form {
   Control& EtAsteptati;
   Control& EtData;
   Control& EtNota;
+  // Hidden: the sorted list through which the alphabetical copies are made.
+  Control& Combo1;
 
   FisaI* Fisa_I = nullptr;
+  LisBord* Borderou = nullptr;
+  ListabIV* Centralizator = nullptr;
+  LisFise1* ListareF1 = nullptr;
+  LisFise2* ListareF2 = nullptr;
 
  private:
   // Clears Check1, which deletes the alphabetical copies of the sheets.

@@ -3,6 +3,7 @@
 // by reference to every screen that reads or writes it.
 #include <string>
 
+#include "listings/Cadru.h"
 #include "params/Cuantum.h"
 #include "params/Impozitar.h"
 #include "sheets/FisaInLucru.h"
@@ -17,6 +18,7 @@ struct Stare {
   // county read from its record until the screen shows it.
   std::string CodAngajator, TipAngajator, JudetAngajator;
   FisaInLucru Fisa;
+  StareListare Listare;
 };
 
 }  // namespace fisc

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "app/Aplicatie.h"
+#include "platform/headless/HeadlessPrinter.h"
 #include "platform/headless/HeadlessServices.h"
 #include "replay/ScriptLine.h"
 
@@ -39,11 +40,13 @@ class Driver {
       : out_(out),
         files_(options.workdir),
         drive_(options.drive),
-        platforma_{files_, dialogs_, clock_, launcher_, drive_},
+        printer_(options.workdir, options.pdfPrinter),
+        platforma_{files_, dialogs_, clock_, launcher_, drive_, printer_},
         app_(platforma_) {
     auto report = [this](const std::string& line) { out_ << line << '\n'; };
     dialogs_.Report = report;
     launcher_.Report = report;
+    printer_.Report = report;
     app_.Ecran().OnFatal = [this](const RuntimeFailure& f) {
       out_ << "fatal " << f.number() << ' ' << Quote(f.description()) << '\n';
     };
@@ -160,6 +163,15 @@ class Driver {
         else
           throw ScriptError("unknown answer " + a);
       }
+    } else if (cmd == "print") {
+      if (t.size() == 2 && t[1].text == "cancel" && !t[1].quoted)
+        printer_.QueueCancel();
+      else if (t.size() == 2 && t[1].text == "ok" && !t[1].quoted)
+        printer_.QueueOk();
+      else if (t.size() == 3 && t[1].text == "ok" && !t[1].quoted)
+        printer_.QueueOk(StringArg(t, 2));
+      else
+        throw ScriptError("print ok \"FILE.pdf\" or print cancel");
     } else if (cmd == "input") {
       Arity(t, 2);
       dialogs_.QueueInput(StringArg(t, 1));
@@ -244,6 +256,7 @@ class Driver {
   HeadlessClock clock_;
   HeadlessLauncher launcher_;
   Drive drive_;
+  HeadlessPrinter printer_;
   Platforma platforma_;
   Aplicatie app_;
 };

@@ -37,13 +37,6 @@ class TabelDed {
   std::array<std::array<std::string, ded::Coloane + 1>, ded::Randuri + 1> celule_{};
 };
 
-// Ded with its two 16-bit counters, as the FF1 screen works on them.
-struct DeduceriFisa {
-  TabelDed Ded;
-  short NrPersoane = 0;
-  short PersoanaCurenta = 1;
-};
-
 // The record of row `rand`, without a line end: marks "X" or nothing, column 9
 // always empty, a coefficient that reads as 0 written as nothing.
 std::string RecordDed(std::string_view codAngajat, const TabelDed& tabel, int rand);

@@ -10,6 +10,7 @@
 
 #include "app/Aplicatie.h"
 #include "platform/Layout.h"
+#include "platform/headless/HeadlessPrinter.h"
 #include "platform/headless/HeadlessServices.h"
 #include "platform/qt/QtServices.h"
 #include "platform/qt/ScreenWindows.h"
@@ -38,7 +39,7 @@ class WindowTest : public ::testing::Test {
   WindowTest()
       : files_((Seed(dir_), dir_.path())),
         drive_(dir_ / "a"),
-        platforma_{files_, dialogs_, clock_, launcher_, drive_},
+        platforma_{files_, dialogs_, clock_, launcher_, drive_, printer_},
         app_(platforma_) {}
 
   static const test::TempDir& Seed(const test::TempDir& dir) {
@@ -73,6 +74,7 @@ class WindowTest : public ::testing::Test {
   FixedClock clock_;
   HeadlessLauncher launcher_;
   Drive drive_;
+  HeadlessPrinter printer_;
   Platforma platforma_;
   Aplicatie app_;
   ScreenWindows windows_{app_.Ecran()};

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "app/Aplicatie.h"
+#include "platform/qt/QtPrinter.h"
 #include "platform/qt/QtServices.h"
 #include "platform/qt/ScreenWindows.h"
 
@@ -19,7 +20,8 @@ int RunWindow(int argc, char** argv, const WindowOptions& options) {
   Clock clock;
   QtLauncher launcher(files);
   Drive drive(options.drive);
-  Platforma platforma{files, dialogs, clock, launcher, drive};
+  QtPrinter printer;
+  Platforma platforma{files, dialogs, clock, launcher, drive, printer};
   Aplicatie app(platforma);
 
   int status = 0;
