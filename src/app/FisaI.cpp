@@ -7,6 +7,7 @@
 #include "records/CoduriFiscale.h"
 #include "records/Judete.h"
 #include "records/Numere.h"
+#include "sheets/Adresa.h"
 #include "sheets/FisaII.h"
 #include "sheets/FisiereSet.h"
 
@@ -19,7 +20,6 @@ constexpr int kMaxAdresa[11] = {50, 50, 10, 6, 10, 10, 10, 10, 1, 10, 50};
 constexpr std::string_view kEtAdresa[11] = {"Localitate", "Strada",  "Numar", "Cod postal",
                                             "Bloc",       "Scara",   "Etaj",  "Apartament",
                                             "Sector",     "Telefon", "E-mail"};
-bool EsteBucuresti(const Control& localitate) { return localitate.Text() == "BUCURESTI"; }
 }  // namespace
 
 Control& FisaI::AdaugaAdresa(int i, int x, int y, int w) {
@@ -120,10 +120,7 @@ FisaI::FisaI(Desktop& desktop, Platforma& platforma, Stare& stare)
   for (int i = 0; i < 11; ++i) {
     Control* c = AdrP[static_cast<std::size_t>(i)];
     bool numeric = i == 3 || i == 8;
-    c->LostFocus = [this, c, numeric] {
-      c->SetText(numeric ? TextDin(Valoare(c->Text())) : Majuscule(c->Text()));
-      RegulaSector();
-    };
+    c->LostFocus = [this, c, numeric] { IesireDinAdresa(*c, numeric, *AdrP[0], *AdrP[8]); };
     c->KeyPress = [this, i](int& key) {
       if (key != kKeyEnter) return;
       switch (i) {
@@ -198,14 +195,6 @@ void FisaI::ArataTip(int tip) {
     s_.TipAngajator = "2";
     DenP.SetText("");
   }
-}
-
-// A sector belongs to an address in BUCURESTI only, and is 1 to 6 there.
-void FisaI::RegulaSector() {
-  Control& sector = *AdrP[8];
-  double v = Valoare(sector.Text());
-  if (v != 0 && v > 6) sector.SetText("");
-  if (!EsteBucuresti(*AdrP[0])) sector.SetText("");
 }
 
 void FisaI::IncarcaAngajator() {

@@ -41,7 +41,6 @@ class FisaI : public Form {
  private:
   Control& AdaugaAdresa(int i, int x, int y, int w);
   void ArataTip(int tip);
-  void RegulaSector();
   int Tip() const;
 
   Platforma& p_;

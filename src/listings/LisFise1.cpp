@@ -1,12 +1,14 @@
 #include "listings/LisFise1.h"
 
 #include "app/Stare.h"
+#include "listings/EcranListare.h"
 #include "listings/ListaFF1.h"
+#include "listings/ScrieFisele.h"
 #include "platform/Desktop.h"
 #include "platform/Failure.h"
 #include "platform/Layout.h"
 #include "records/CititorCampuri.h"
-#include "sheets/RecordFF1.h"
+#include "sheets/ListaFise.h"
 #include "sheets/Stocare.h"
 
 namespace fisc {
@@ -32,13 +34,6 @@ std::string_view CodulLiniei(std::string_view linie) {
   std::size_t virgula = linie.find(',');
   if (virgula == std::string_view::npos) Fail(err::InvalidCall);
   return linie.substr(0, virgula);
-}
-
-std::string CodulDinLista(std::string_view item, std::string_view sfarsit) {
-  std::size_t inceput = item.find("--"), capat = item.find(sfarsit);
-  if (inceput == std::string_view::npos || capat == std::string_view::npos || capat < inceput + 2)
-    return {};
-  return std::string(item.substr(inceput + 2, capat - inceput - 2));
 }
 
 LisFise1::LisFise1(Desktop& desktop, Platforma& platforma, Stare& stare)
@@ -82,23 +77,12 @@ LisFise1::LisFise1(Desktop& desktop, Platforma& platforma, Stare& stare)
     Combo3.SetVisible(true);
     Label20.SetVisible(true);
     Combo3.Clear();
-    LineReader in = p_.files.Read(SursaFF1(p_.files));
-    std::string linie;
-    AntetFisa antet;
-    while (in.Next(linie)) {
-      CititorCampuri c(linie);
-      CitesteAntet(c, antet);
-      Combo3.AddItem(antet.NumeS + " " + antet.PrenS + "--" + antet.CodS + "--FF1");
-    }
+    AdaugaFise(Combo3, p_.files, SursaFF1(p_.files), "--FF1");
     Label20.SetCaption("  S-au incarcat " + std::to_string(Combo3.ListCount()) +
                        " fise 1. Alegeti o fisa !");
   };
 
-  Dnupren.LostFocus = [this] { Dnupren.SetText(Majuscule(Dnupren.Text())); };
-  Dnupren.KeyPress = [this](int& key) {
-    if (key == kKeyEnter) Dfunc.SetFocus();
-  };
-  Dfunc.LostFocus = [this] { Dfunc.SetText(Majuscule(Dfunc.Text())); };
+  LeagaSemnatarul(Dnupren, Dfunc);
   Dfunc.KeyPress = [this](int& key) {
     if (key != kKeyEnter) return;
     // Never equal, because of the blanks behind the entries: with "- o fisa"
@@ -134,18 +118,8 @@ LisFise1::LisFise1(Desktop& desktop, Platforma& platforma, Stare& stare)
     p_.dialogs.Busy(false);
   };
 
-  Combo3.Click = [this] {
-    // The first entry stands for a click on an empty choice; choosing it
-    // runs this handler again, which prints.
-    if (Combo3.ListIndex() == -1) {
-      Combo3.SetListIndex(0);
-      return;
-    }
-    s_.Fisa.CodCurent = CodulDinLista(Combo3.Text(), "--FF");
-    s_.Listare.CondListare = "S";
-    if (s_.Fisa.CodCurent.empty()) return;
-    ScrieSiListeaza(SursaFF1(p_.files), s_.Fisa.CodCurent);
-  };
+  LeagaAlegereaFisei(Combo3, s_,
+                     [this](const std::string& cod) { ScrieSiListeaza(SursaFF1(p_.files), cod); });
 }
 
 void LisFise1::Deschide() {
@@ -162,24 +136,8 @@ void LisFise1::Deschide() {
 }
 
 void LisFise1::ScrieSiListeaza(std::string_view sursa, std::string_view cod) {
-  LineReader in = p_.files.Read(sursa);
-  p_.files.DeleteIfExists(listare::ListF1);
-  {
-    LineWriter out = p_.files.Write(listare::ListF1);
-    ListaFF1 lista(p_.files, out, s_, Dnupren.Text(), Dfunc.Text());
-    std::string cautat = std::string(cod) + ",";
-    std::string linie;
-    while (in.Next(linie)) {
-      if (cod.empty())
-        s_.Fisa.CodCurent = CodulLiniei(linie);
-      else if (!LiniaCodului(linie, cautat))
-        continue;
-      lista.ListF1(linie);
-    }
-    out.Close();
-  }
-  ArataSiListeaza(p_.launcher, p_.files, p_.printer, s_.Listare.LiniePagina, "Listf1.txt",
-                  ListeazaFise);
+  ScrieFisele<ListaFF1>(p_, s_, sursa, cod, listare::ListF1, "Listf1.txt", Dnupren.Text(),
+                        Dfunc.Text(), &ListaFF1::ListF1);
 }
 
 }  // namespace fisc

@@ -37,8 +37,5 @@ class LisFise1 : public Form {
 
 // The code of a record: the text before its first comma (failure 5 without one).
 std::string_view CodulLiniei(std::string_view linie);
-// The code in a list item "NUME PRENUME--cod--FF1": between the first "--"
-// and the first `sfarsit`.
-std::string CodulDinLista(std::string_view item, std::string_view sfarsit);
 
 }  // namespace fisc

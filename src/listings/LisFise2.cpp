@@ -1,12 +1,14 @@
 #include "listings/LisFise2.h"
 
 #include "app/Stare.h"
+#include "listings/EcranListare.h"
 #include "listings/LisFise1.h"
 #include "listings/ListaFF2.h"
+#include "listings/ScrieFisele.h"
 #include "platform/Desktop.h"
 #include "platform/Layout.h"
 #include "records/CititorCampuri.h"
-#include "sheets/RecordFF1.h"
+#include "sheets/ListaFise.h"
 #include "sheets/Stocare.h"
 
 namespace fisc {
@@ -66,11 +68,7 @@ LisFise2::LisFise2(Desktop& desktop, Platforma& platforma, Stare& stare)
     s_.Listare.CondListare = "T";
   };
 
-  Dnupren.LostFocus = [this] { Dnupren.SetText(Majuscule(Dnupren.Text())); };
-  Dnupren.KeyPress = [this](int& key) {
-    if (key == kKeyEnter) Dfunc.SetFocus();
-  };
-  Dfunc.LostFocus = [this] { Dfunc.SetText(Majuscule(Dfunc.Text())); };
+  LeagaSemnatarul(Dnupren, Dfunc);
   Dfunc.KeyPress = [this](int& key) {
     if (key != kKeyEnter) return;
     if (Option1_1.Value() == 1)
@@ -92,16 +90,8 @@ LisFise2::LisFise2(Desktop& desktop, Platforma& platforma, Stare& stare)
     p_.dialogs.Busy(false);
   };
 
-  Combo3.Click = [this] {
-    if (Combo3.ListIndex() == -1) {
-      Combo3.SetListIndex(0);
-      return;
-    }
-    s_.Fisa.CodCurent = CodulDinLista(Combo3.Text(), "--FF");
-    s_.Listare.CondListare = "S";
-    if (s_.Fisa.CodCurent.empty()) return;
-    ScrieSiListeaza(SursaFF2(p_.files), s_.Fisa.CodCurent);
-  };
+  LeagaAlegereaFisei(Combo3, s_,
+                     [this](const std::string& cod) { ScrieSiListeaza(SursaFF2(p_.files), cod); });
 }
 
 void LisFise2::Deschide() {
@@ -122,38 +112,15 @@ void LisFise2::UmpleLista() {
   Combo3.SetVisible(true);
   Label20.SetVisible(true);
   Combo3.Clear();
-  LineReader in = p_.files.Read(SursaFF2(p_.files));
-  std::string linie;
-  AntetFisa antet;
-  while (in.Next(linie)) {
-    CititorCampuri c(linie);
-    CitesteAntet(c, antet);
-    Combo3.AddItem(antet.NumeS + " " + antet.PrenS + "--" + antet.CodS + "--FF2");
-  }
+  AdaugaFise(Combo3, p_.files, SursaFF2(p_.files), "--FF2");
   s_.Listare.CondListare = "S";
   Label20.SetCaption("  S-au incarcat " + std::to_string(Combo3.ListCount()) +
                      " fise 2. Alegeti o fisa !");
 }
 
 void LisFise2::ScrieSiListeaza(std::string_view sursa, std::string_view cod) {
-  LineReader in = p_.files.Read(sursa);
-  p_.files.DeleteIfExists(listare::ListF2);
-  {
-    LineWriter out = p_.files.Write(listare::ListF2);
-    ListaFF2 lista(p_.files, out, s_, Dnupren.Text(), Dfunc.Text());
-    std::string cautat = std::string(cod) + ",";
-    std::string linie;
-    while (in.Next(linie)) {
-      if (cod.empty())
-        s_.Fisa.CodCurent = CodulLiniei(linie);
-      else if (!LiniaCodului(linie, cautat))
-        continue;
-      lista.ListF2(linie);
-    }
-    out.Close();
-  }
-  ArataSiListeaza(p_.launcher, p_.files, p_.printer, s_.Listare.LiniePagina, "Listf2.txt",
-                  ListeazaFise);
+  ScrieFisele<ListaFF2>(p_, s_, sursa, cod, listare::ListF2, "Listf2.txt", Dnupren.Text(),
+                        Dfunc.Text(), &ListaFF2::ListF2);
 }
 
 }  // namespace fisc

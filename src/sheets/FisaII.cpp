@@ -6,8 +6,10 @@
 #include "records/CoduriFiscale.h"
 #include "records/Date.h"
 #include "records/Numere.h"
+#include "sheets/Adresa.h"
 #include "sheets/FisiereSet.h"
 #include "sheets/FrmGasit.h"
+#include "sheets/ListaFise.h"
 #include "sheets/RecordFF2.h"
 #include "sheets/Stocare.h"
 #include "tax/Conditii.h"
@@ -154,10 +156,7 @@ FisaII::FisaII(Desktop& desktop, Platforma& platforma, Stare& stare)
   for (int i = 0; i < 9; ++i) {
     Control* c = AdrS[static_cast<std::size_t>(i)];
     bool numeric = i == 3 || i == 8;
-    c->LostFocus = [this, c, numeric] {
-      c->SetText(numeric ? TextDin(Valoare(c->Text())) : Majuscule(c->Text()));
-      RegulaSector();
-    };
+    c->LostFocus = [this, c, numeric] { IesireDinAdresa(*c, numeric, *AdrS[0], *AdrS[8]); };
     c->KeyPress = [this, i](int& key) {
       if (key != kKeyEnter) return;
       if (i == 0) {
@@ -248,14 +247,6 @@ Control& FisaII::PrimulButonActiv() {
   return Command1;
 }
 
-// A sector belongs to an address in BUCURESTI only, and is 1 to 6 there.
-void FisaII::RegulaSector() {
-  Control& sector = *AdrS[8];
-  double v = Valoare(sector.Text());
-  if (v != 0 && v > 6) sector.SetText("");
-  if (AdrS[0]->Text() != "BUCURESTI") sector.SetText("");
-}
-
 // The code is typed afresh: what was on the screen belonged to the last one.
 // Locality and county stay, as an employer's people mostly share them.
 void FisaII::IntrareCodS() {
@@ -304,19 +295,8 @@ void FisaII::CautaCodul(const std::string& cod) {
 
 void FisaII::UmpleLista() {
   Combo1.Clear();
-  for (auto [fisier, sufix] : {std::pair{fisier::Ff1, std::string_view("--FF1")},
-                               std::pair{fisier::Ff2, std::string_view("--FF2")}}) {
-    LineReader in = p_.files.Read(fisier);
-    std::string linie, intrare;
-    while (in.Next(linie)) {
-      CititorCampuri c(linie);
-      std::string_view cod = c.Camp(delim::BareText);
-      std::string_view nume = c.Camp(delim::Text);
-      std::string_view prenume = c.Camp(delim::Text);
-      intrare.assign(nume).append(" ").append(prenume).append("--").append(cod).append(sufix);
-      Combo1.AddItem(intrare);
-    }
-  }
+  AdaugaFise(Combo1, p_.files, fisier::Ff1, "--FF1");
+  AdaugaFise(Combo1, p_.files, fisier::Ff2, "--FF2");
   Label20.SetCaption("LISTA ALFABETICA ( s-au incarcat " + std::to_string(Combo1.ListCount()) +
                      " fise )");
 }
@@ -329,12 +309,10 @@ void FisaII::AlegeDinLista() {
     Combo1.SetListIndex(0);
     return;
   }
-  std::string intrare = Combo1.Item(Combo1.ListIndex());
-  std::size_t inceput = intrare.find("--");
-  std::size_t sfarsit = inceput == std::string::npos ? inceput : intrare.find("--FF", inceput + 2);
-  if (sfarsit == std::string::npos) Fail(err::InvalidCall);
-  std::string cod = intrare.substr(inceput + 2, sfarsit - inceput - 2);
-  bool ff1 = intrare.compare(sfarsit, 5, "--FF1") == 0;
+  const std::string& intrare = Combo1.Item(Combo1.ListIndex());
+  std::string cod = CodulDinLista(intrare);
+  if (cod.empty()) Fail(err::InvalidCall);
+  bool ff1 = intrare.find("--" + cod + "--FF1") != std::string::npos;
 
   f.CodCurent = cod;
   CodS.SetText(cod);

@@ -80,7 +80,6 @@ class FisaII : public Form {
   void UmpleLista();
   void AlegeDinLista();
   void IesireData(Control& camp);
-  void RegulaSector();
   void Command1_Click();
   void Ok_Fisa2_Click();
   // Ok_Fisa1, Ok_Fisa2 or Command1, the first that is enabled.
