@@ -11,6 +11,7 @@
 #include "platform/headless/HeadlessServices.h"
 #include "platform/qt/QtServices.h"
 #include "platform/qt/ScreenWindows.h"
+#include "qt/ProgramInWindows.h"
 #include "qt/QtTestSupport.h"
 #include "support/TestSupport.h"
 
@@ -22,40 +23,15 @@ using test::Press;
 using test::Settle;
 using test::Type;
 
-class Ziua : public Clock {
- public:
-  std::chrono::sys_days Today() const override {
-    return std::chrono::sys_days(std::chrono::year(2002) / 3 / 15);
-  }
-  void Wait(std::chrono::seconds) override {}
-};
-
 std::filesystem::path Replay(std::string_view cale) {
   return test::DataDir() / ".." / "tests" / "replay" / std::string(cale);
 }
 
-class SheetWindowTest : public ::testing::Test {
+class SheetWindowTest : public test::ProgramInWindows {
  protected:
   SheetWindowTest()
-      : files_((Seed(dir_), dir_.path())),
-        drive_(dir_ / "a"),
-        platforma_{files_, dialogs_, clock_, launcher_, drive_, printer_},
-        app_(platforma_) {}
+      : ProgramInWindows({{Replay("ff1_part_year/before/Rep_2002.txt"), "Rep_2002.txt"}}) {}
 
-  static const test::TempDir& Seed(const test::TempDir& dir) {
-    for (const char* name : {"Cuantum.txt", "Impozitar.txt"})
-      std::filesystem::copy_file(test::DataDir() / name, dir / name);
-    std::filesystem::copy_file(Replay("ff1_part_year/before/Rep_2002.txt"), dir / "Rep_2002.txt");
-    return dir;
-  }
-
-  void SetUp() override {
-    ASSERT_TRUE(app_.Porneste());
-    windows_.Redraw();
-    Settle();
-  }
-
-  QWidget* W(Control& c) { return windows_.WidgetOf(c); }
   Control* Focus() { return app_.Ecran().Focused(); }
   // Enter in the focused widget, then the text of the next field.
   void Enter(const QString& text = {}) {
@@ -65,17 +41,6 @@ class SheetWindowTest : public ::testing::Test {
   }
 
   void SelectAll() { test::Key(QApplication::focusWidget(), Qt::Key_A, {}, Qt::ControlModifier); }
-
-  test::TempDir dir_;
-  Files files_;
-  QtDialogs dialogs_;
-  Ziua clock_;
-  HeadlessLauncher launcher_;
-  Drive drive_;
-  HeadlessPrinter printer_;
-  Platforma platforma_;
-  Aplicatie app_;
-  ScreenWindows windows_{app_.Ecran()};
 };
 
 TEST_F(SheetWindowTest, APartYearSheetTypedInTheWindowsIsStoredAsTheReplayStoresIt) {

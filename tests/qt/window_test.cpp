@@ -14,6 +14,7 @@
 #include "platform/headless/HeadlessServices.h"
 #include "platform/qt/QtServices.h"
 #include "platform/qt/ScreenWindows.h"
+#include "qt/ProgramInWindows.h"
 #include "qt/QtTestSupport.h"
 #include "support/TestSupport.h"
 
@@ -25,36 +26,8 @@ using test::Press;
 using test::Settle;
 using test::Type;
 
-// A day whose short date passes the program's check of the regional setting.
-class FixedClock : public Clock {
- public:
-  std::chrono::sys_days Today() const override {
-    return std::chrono::sys_days(std::chrono::year(2002) / 3 / 15);
-  }
-  void Wait(std::chrono::seconds) override {}
-};
-
-class WindowTest : public ::testing::Test {
+class WindowTest : public test::ProgramInWindows {
  protected:
-  WindowTest()
-      : files_((Seed(dir_), dir_.path())),
-        drive_(dir_ / "a"),
-        platforma_{files_, dialogs_, clock_, launcher_, drive_, printer_},
-        app_(platforma_) {}
-
-  static const test::TempDir& Seed(const test::TempDir& dir) {
-    for (const char* name : {"Cuantum.txt", "Impozitar.txt"})
-      std::filesystem::copy_file(test::DataDir() / name, dir / name);
-    return dir;
-  }
-
-  void SetUp() override {
-    ASSERT_TRUE(app_.Porneste());
-    windows_.Redraw();
-    Settle();
-  }
-
-  QWidget* W(Control& c) { return windows_.WidgetOf(c); }
   QString Shown(Control& c) { return static_cast<QLineEdit*>(W(c))->text(); }
 
   // The first button of the main window, then the employer's code and Enter.
@@ -67,17 +40,6 @@ class WindowTest : public ::testing::Test {
     Press(Qt::Key_Return);
     Settle();
   }
-
-  test::TempDir dir_;
-  Files files_;
-  QtDialogs dialogs_;
-  FixedClock clock_;
-  HeadlessLauncher launcher_;
-  Drive drive_;
-  HeadlessPrinter printer_;
-  Platforma platforma_;
-  Aplicatie app_;
-  ScreenWindows windows_{app_.Ecran()};
 };
 
 TEST_F(WindowTest, EmployerTypedInTheWindowIsSavedAsTheReplayWritesIt) {
