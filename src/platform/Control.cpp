@@ -234,6 +234,11 @@ Control& Control::At(int x, int y, int w, int h) {
   return *this;
 }
 
+Control& Control::SetAlignRight(bool on) {
+  alignRight_ = on;
+  return *this;
+}
+
 Control& Control::SetFont(int size, bool bold) {
   fontSize_ = size;
   bold_ = bold;

@@ -88,6 +88,9 @@ class Control {
   Control& In(Control& frame);
   const Rect& Place() const { return place_; }
   Control& At(int x, int y, int w, int h);
+  // Figures stand right-aligned in their box, as in a column of amounts.
+  Control& SetAlignRight(bool on);
+  bool AlignRight() const { return alignRight_; }
   // A heading's font: a point size (0 the window's own) and weight.
   Control& SetFont(int size, bool bold);
   int FontSize() const { return fontSize_; }
@@ -123,6 +126,7 @@ class Control {
   int listIndex_ = -1;
   Control* container_ = nullptr;
   Rect place_;
+  bool alignRight_ = false;
   int fontSize_ = 0;
   bool bold_ = false;
   int tabIndex_ = 0;

@@ -202,6 +202,15 @@ Fisa1F::Fisa1F(Desktop& desktop, Platforma& platforma, Stare& stare)
   Eticheta(*this, Fisa1_IV, "EtLuni",
            "C. Numar de luni pentru care s-au acordat cheltuieli profesionale", 20, 480, 470);
 
+  // Amounts and coefficients read as columns of figures.
+  for (const auto* coloana : {&CoefProp, &CoefCalc, &CoefI})
+    for (Control* c : *coloana) c->SetAlignRight(true);
+  for (const auto* coloana : {&VenitN, &ImpP, &ImpC})
+    for (Control* c : *coloana) c->SetAlignRight(true);
+  for (Control* c : Reg) c->SetAlignRight(true);
+  ChAc.SetAlignRight(true);
+  Luni.SetAlignRight(true);
+
   // VI to VIII: VII and VIII stand apart from the computed items.
   for (int i = 0; i < 13; ++i) {
     int y = 36 + kRand * i + (i >= 10 ? 14 : 0) + (i == 12 ? 14 : 0);

@@ -72,6 +72,8 @@ Fisa2::Fisa2(Desktop& desktop, Platforma& platforma, Stare& stare)
   for (int i = 0; i < 12; ++i)
     Label(*this, "EtLuna", NumeLuni[static_cast<std::size_t>(i)], 20, 110 + kRand * i, 140);
   Label(*this, "EtTotal", "TOTAL", 20, 110 + kRand * 12, 140);
+  for (Control* c : VenitCS) c->SetAlignRight(true);
+  for (Control* c : ImpS) c->SetAlignRight(true);
 
   for (int i = 0; i < 13; ++i) {
     Control& venit = *VenitCS[static_cast<std::size_t>(i)];

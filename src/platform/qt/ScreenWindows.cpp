@@ -4,10 +4,10 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QFont>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QFont>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -253,6 +253,8 @@ void ScreenWindows::Build(Window& window, Control& control) {
   // Qt never moves the focus by itself: a click or a key asks the model,
   // and the redraw puts the focus where the model says.
   b.widget->setFocusPolicy(Qt::NoFocus);
+  if (auto* edit = qobject_cast<QLineEdit*>(b.widget); edit && control.AlignRight())
+    edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   if (control.FontSize() > 0 || control.Bold()) {
     QFont font = b.widget->font();
     if (control.FontSize() > 0) font.setPointSize(control.FontSize());
