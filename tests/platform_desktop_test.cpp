@@ -139,5 +139,25 @@ TEST_F(DesktopTest, CloseRunsTheClosingHandlerWithoutMovingTheFocus) {
   EXPECT_TRUE(log.empty());
 }
 
+TEST_F(DesktopTest, AFormThatMustBeAnsweredTakesTheFocusBackFromAnyOther) {
+  Screen other(desk);
+  other.Deactivate = [&] { other.Ok.SetFocus(); };
+  other.Show();
+  bool clicked = false;
+  s.Ok.Click = [&] { clicked = true; };
+  desk.UserClick(s.Ok);
+  desk.UserFocus(s.B);
+  desk.UserClose(s);
+  EXPECT_FALSE(clicked);
+  EXPECT_TRUE(s.Visible());
+  EXPECT_EQ(desk.Focused(), &other.Ok);
+  // Its own controls work as ever; hidden, it holds nothing back.
+  desk.UserFocus(other.A);
+  EXPECT_EQ(desk.Focused(), &other.A);
+  other.Hide();
+  desk.UserClick(s.Ok);
+  EXPECT_TRUE(clicked);
+}
+
 }  // namespace
 }  // namespace fisc

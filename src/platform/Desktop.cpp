@@ -41,14 +41,25 @@ void Desktop::FormHidden(Form& form) {
   if (focused_ && &focused_->Owner() == &form) focused_ = nullptr;
 }
 
+bool Desktop::Refused(const Form& target) {
+  for (Form* f : forms_) {
+    if (f == &target || !f->Visible() || !f->Deactivate) continue;
+    f->Deactivate();
+    return true;
+  }
+  return false;
+}
+
 void Desktop::UserFocus(Control& control) {
   Dispatch([&] {
+    if (Refused(control.Owner())) return;
     if (control.CanTakeFocus()) MoveFocus(&control);
   });
 }
 
 void Desktop::UserClick(Control& control) {
   Dispatch([&] {
+    if (Refused(control.Owner())) return;
     if (!control.Shown() || !control.Enabled()) return;
     if (control.CanTakeFocus()) MoveFocus(&control);
     if (ended_) return;
@@ -99,6 +110,7 @@ void Desktop::UserTab() {
 
 void Desktop::UserSelect(Control& list, int index) {
   Dispatch([&] {
+    if (Refused(list.Owner())) return;
     if (list.CanTakeFocus()) MoveFocus(&list);
     if (ended_) return;
     if (list.ListIndex() == index) {
@@ -111,6 +123,7 @@ void Desktop::UserSelect(Control& list, int index) {
 
 void Desktop::UserClose(Form& form) {
   Dispatch([&] {
+    if (Refused(form)) return;
     bool cancel = false;
     if (form.Closing) form.Closing(cancel);
     if (!cancel) form.Hide();

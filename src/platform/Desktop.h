@@ -58,6 +58,10 @@ class Desktop {
   std::function<void(const RuntimeFailure&)> OnFatal;
 
  private:
+  // True when a shown form that must be answered first refuses an action
+  // aimed at `target`; its Deactivate handler has run then.
+  bool Refused(const Form& target);
+
   std::vector<Form*> forms_;
   Control* focused_ = nullptr;
   bool moving_ = false;

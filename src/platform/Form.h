@@ -45,6 +45,10 @@ class Form {
 
   // Window handlers. Closing: set `cancel` to keep the window open.
   std::function<void()> Activate;
+  // A form that a person must answer before any other: while it is shown, an
+  // action aimed at another window runs this instead (it takes the focus
+  // back) and nothing else happens.
+  std::function<void()> Deactivate;
   std::function<void(bool& cancel)> Closing;
 
  private:

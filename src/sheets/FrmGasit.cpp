@@ -52,6 +52,8 @@ FrmGasit::FrmGasit(Desktop& desktop, Platforma& platforma, Stare& stare)
       s_(stare) {
   SetSize(420, 160);
   for (int k = 0; k < 4; ++k) but[static_cast<std::size_t>(k)]->Click = [this, k] { Apasa(k); };
+  // The clerk must choose here before working elsewhere.
+  Deactivate = [this] { but[0]->SetFocus(); };
   // Closed without a choice: the typed code is dropped.
   Closing = [this](bool&) { Fisa_II->GolesteAngajat(); };
 }
