@@ -217,39 +217,39 @@ void ScrieLaFel(Files& files, std::uintmax_t marime) {
   out.Close();
 }
 
+// A sheet listing of the whole set, and the floor beside it: a file of the
+// same size written line by line.
+template <typename Lista>
+void Listare(benchmark::State& state, const char* sursa, const char* listare, const char* contor) {
+  fs::path d = Fresh("fisc-bench-listare");
+  Files files(d);
+  SchimbLaPornire(files, "2002");
+  std::uintmax_t marime = 0;
+  for (auto _ : state) marime = Listeaza<Lista>(files, sursa, listare);
+  state.counters[contor] = static_cast<double>(marime) / 1e6;
+}
+
+template <typename Lista>
+void ScriereLaFel(benchmark::State& state, const char* sursa, const char* listare) {
+  fs::path d = Fresh("fisc-bench-listare");
+  Files files(d);
+  SchimbLaPornire(files, "2002");
+  std::uintmax_t marime = Listeaza<Lista>(files, sursa, listare);
+  files.Delete(listare);
+  for (auto _ : state) ScrieLaFel(files, marime);
+}
+
 void BM_ListF1(benchmark::State& state) {
-  fs::path d = Fresh("fisc-bench-listare");
-  Files files(d);
-  SchimbLaPornire(files, "2002");
-  std::uintmax_t marime = 0;
-  for (auto _ : state) marime = Listeaza<ListaFF1>(files, "Ff1.txt", "ListF1.txt");
-  state.counters["ListF1_MB"] = static_cast<double>(marime) / 1e6;
+  Listare<ListaFF1>(state, "Ff1.txt", "ListF1.txt", "ListF1_MB");
 }
-
 void BM_ListF1_Scriere(benchmark::State& state) {
-  fs::path d = Fresh("fisc-bench-listare");
-  Files files(d);
-  SchimbLaPornire(files, "2002");
-  std::uintmax_t marime = Listeaza<ListaFF1>(files, "Ff1.txt", "ListF1.txt");
-  files.Delete("ListF1.txt");
-  for (auto _ : state) ScrieLaFel(files, marime);
+  ScriereLaFel<ListaFF1>(state, "Ff1.txt", "ListF1.txt");
 }
-
 void BM_ListF2(benchmark::State& state) {
-  fs::path d = Fresh("fisc-bench-listare");
-  Files files(d);
-  SchimbLaPornire(files, "2002");
-  std::uintmax_t marime = 0;
-  for (auto _ : state) marime = Listeaza<ListaFF2>(files, "Ff2.txt", "ListF2.txt");
-  state.counters["ListF2_MB"] = static_cast<double>(marime) / 1e6;
+  Listare<ListaFF2>(state, "Ff2.txt", "ListF2.txt", "ListF2_MB");
 }
-
 void BM_ListF2_Scriere(benchmark::State& state) {
-  fs::path d = Fresh("fisc-bench-listare");
-  Files files(d);
-  SchimbLaPornire(files, "2002");
-  std::uintmax_t marime = Listeaza<ListaFF2>(files, "Ff2.txt", "ListF2.txt");
-  for (auto _ : state) ScrieLaFel(files, marime);
+  ScriereLaFel<ListaFF2>(state, "Ff2.txt", "ListF2.txt");
 }
 
 // The alphabetical list of the employee screen filled from every sheet through

@@ -79,6 +79,15 @@ std::string AdresaAngajat(const AntetFisa& f) {
   return a;
 }
 
+std::vector<std::string> BlocAngajat(const AntetFisa& a) {
+  std::vector<std::string> linii{"Cod angajat   : " + a.CodS};
+  for (std::string& l : Bucati63("Nume, prenume : ", a.NumeS + " " + a.PrenS))
+    linii.push_back(std::move(l));
+  for (std::string& l : Bucati63("Domiciliu     : ", AdresaAngajat(a)))
+    linii.push_back(std::move(l));
+  return linii;
+}
+
 std::string LiniaExemplar(std::string_view exemplar) {
   std::string cine = Majuscule(Trim(exemplar));
   if (cine == "ANGAJAT" || cine == "UNITATEA FISCALA")

@@ -58,6 +58,9 @@ std::string AdresaAngajator(const RecordAngajator& r);
 // An employee's address as the sheets print it: a "0" postal code or sector
 // still stands behind its label.
 std::string AdresaAngajat(const AntetFisa& a);
+// The employee's block of a sheet listing: his code, then his name and his
+// address in pieces of 63.
+std::vector<std::string> BlocAngajat(const AntetFisa& a);
 
 // Line 1 of a sheet: "(copie pentru ...)" or "(original pentru ...)"; empty
 // for an addressee that is none of the three.

@@ -225,10 +225,7 @@ void ListaFF1::ScrieFisa(FisaFF1& f, const TabelDed* ded, short nrPersoane) {
   Linie(U80);
   Linie(" II. DATE DE IDENTIFICARE ANGAJAT");
   Linie(U80);
-  Linie("Cod angajat   : " + f.Antet.CodS);
-  for (const std::string& l : Bucati63("Nume, prenume : ", f.Antet.NumeS + " " + f.Antet.PrenS))
-    Linie(l);
-  for (const std::string& l : Bucati63("Domiciliu     : ", AdresaAngajat(f.Antet))) Linie(l);
+  for (const std::string& l : BlocAngajat(f.Antet)) Linie(l);
   Linie("");
   Linie("Persoana fizica romana fara domiciliu in Romania : " + DaNu(f.FlagDedu));
   Linie(U80);

@@ -73,10 +73,7 @@ void ListaFF2::ScrieFisa(FisaFF2& f) {
   Linie(U80);
   Linie(" II. DATE DE IDENTIFICARE ANGAJAT");
   Linie(U80);
-  Linie("Cod angajat   : " + f.Antet.CodS);
-  for (const std::string& l : Bucati63("Nume, prenume : ", f.Antet.NumeS + " " + f.Antet.PrenS))
-    Linie(l);
-  for (const std::string& l : Bucati63("Domiciliu     : ", AdresaAngajat(f.Antet))) Linie(l);
+  for (const std::string& l : BlocAngajat(f.Antet)) Linie(l);
   Linie(U80);
   Linie("III. CALCULUL IMPOZITULUI PE VENITURILE DIN SALARII, ALTELE DECAT CELE DE LA ");
   std::string tip = "     FUNCTIA DE BAZA        Tip venit : ";
