@@ -90,6 +90,10 @@ TEST_F(DesktopTest, FocusOnAHiddenOrDisabledControlIsFailure5) {
   EXPECT_EQ(test::FailureOf([&] { s.B.SetFocus(); }), err::InvalidCall);
   desk.UserTab();  // the disabled box is passed over
   EXPECT_EQ(desk.Focused(), &s.C);
+  desk.UserBackTab();
+  EXPECT_EQ(desk.Focused(), &s.A);
+  desk.UserBackTab();  // round to the last control
+  EXPECT_EQ(desk.Focused(), &s.Ok);
 }
 
 TEST_F(DesktopTest, AListOnlyComboRefusesATextNotInTheList) {

@@ -96,17 +96,23 @@ void Desktop::UserEnter() {
   });
 }
 
-void Desktop::UserTab() {
+void Desktop::StepTab(int step) {
   Dispatch([&] {
     Control* c = focused_;
     if (!c) return;
     auto order = c->Owner().TabOrder();
     if (order.empty()) return;
-    auto it = std::find(order.begin(), order.end(), c);
-    Control* next = it == order.end() || it + 1 == order.end() ? order.front() : *(it + 1);
-    MoveFocus(next);
+    auto n = static_cast<std::ptrdiff_t>(order.size());
+    auto at = std::find(order.begin(), order.end(), c) - order.begin();
+    // A control outside the order (a chosen option's partner) starts from the front.
+    if (at == n) at = step > 0 ? -1 : 0;
+    MoveFocus(order[static_cast<std::size_t>(((at + step) % n + n) % n)]);
   });
 }
+
+void Desktop::UserTab() { StepTab(1); }
+
+void Desktop::UserBackTab() { StepTab(-1); }
 
 void Desktop::UserSelect(Control& list, int index) {
   Dispatch([&] {

@@ -41,6 +41,8 @@ class Desktop {
   bool UserType(std::string_view text);
   void UserEnter();
   void UserTab();
+  // Shift+Tab: the previous control in tab order.
+  void UserBackTab();
   // Chooses a list entry; the list's click handler runs even when that
   // entry was chosen already.
   void UserSelect(Control& list, int index);
@@ -61,6 +63,7 @@ class Desktop {
   // True when a shown form that must be answered first refuses an action
   // aimed at `target`; its Deactivate handler has run then.
   bool Refused(const Form& target);
+  void StepTab(int step);
 
   std::vector<Form*> forms_;
   Control* focused_ = nullptr;

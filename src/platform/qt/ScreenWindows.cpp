@@ -547,7 +547,7 @@ bool ScreenWindows::eventFilter(QObject* watched, QEvent* event) {
         case Qt::Key_Return:
         case Qt::Key_Enter: Forward([this] { desktop_.UserEnter(); }); return true;
         case Qt::Key_Tab: Forward([this] { desktop_.UserTab(); }); return true;
-        case Qt::Key_Backtab: return true;  // the model knows one direction only
+        case Qt::Key_Backtab: Forward([this] { desktop_.UserBackTab(); }); return true;
         default: return false;
       }
     }
