@@ -112,6 +112,18 @@ TEST_F(Angajator, AnotherTypeLeavesTheHeadEmptyAndTheCountyStandsEvenEmpty) {
   EXPECT_EQ(numarate, 5);
 }
 
+TEST_F(Angajator, ATypeWithAFractionIsAnotherTypeNotTheOneItBeginsWith) {
+  for (std::string_view tip : {"1.5", "2.9"}) {
+    std::string record = "12345674," + std::string(tip) +
+                         ",#FIRMA#,#POP#,#ION#,#DEVA#,#HUNEDOARA#,#S#,#2#,0,##,##,##,##,,##,##\r\n";
+    auto [text, numarate] = Bloc(record);
+    EXPECT_EQ(text, test::Lines({"", "Cod angajator : 12345674", "",
+                                 "Adresa        : DEVA,jud.HUNEDOARA,str.S,nr.2", ""}))
+        << tip;
+    EXPECT_EQ(numarate, 5);
+  }
+}
+
 TEST_F(Angajator, ANameOf64CharactersTakesASecondLine) {
   std::string den = std::string(63, 'D') + "E";
   auto [text, numarate] =

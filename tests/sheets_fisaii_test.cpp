@@ -10,8 +10,8 @@ using test::Program;
 constexpr std::string_view kCod = "1700315123458";
 
 // An employee's FF1 line, a whole year at coefficient 1, in county `judet`.
-std::string LinieFF1(std::string_view judet) {
-  return std::string(kCod) + ",#POP#,#ION#,#SACELE#,#" + std::string(judet) +
+std::string LinieFF1(std::string_view judet, std::string_view cod = kCod) {
+  return std::string(cod) + ",#POP#,#ION#,#SACELE#,#" + std::string(judet) +
          "#,##,##,0,##,##,##,##,,##,##,##,##,##,##,##,,,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,"
          "1,1,1" +
          std::string(40, ',') + "\r\n";
@@ -55,6 +55,20 @@ TEST(EcranAngajat, TheDecisionLoadStepsOverABrokenRecordAndTheListEndsTheProgram
   p.D().UserSelect(p.II().Combo1, 0);
   ASSERT_TRUE(p.D().Fatal());
   EXPECT_EQ(p.D().Fatal()->number(), 5);
+}
+
+TEST(EcranAngajat, AListEntryWithAnEmptyCodeLoadsWithoutEndingTheProgram) {
+  Program p(CuFF1(LinieFF1("BRASOV", "")));
+  p.EcranAngajat();
+  p.Click(p.II().Option2);
+  ASSERT_EQ(p.II().Combo1.ListCount(), 1);
+  EXPECT_EQ(p.II().Combo1.Item(0), "POP ION----FF1");
+  p.D().UserSelect(p.II().Combo1, 0);
+  ASSERT_FALSE(p.D().Fatal());
+  EXPECT_EQ(p.II().CodS.Text(), "");
+  EXPECT_EQ(p.II().NumeS.Text(), "POP");
+  EXPECT_EQ(p.II().but_sterg_fisa.Caption(), "Sterge fisa 1");
+  EXPECT_TRUE(p.II().Frame1.Visible());
 }
 
 TEST(EcranAngajat, EnteringTheCodeClearsTheLastEmployeeButKeepsHisLocality) {

@@ -186,6 +186,53 @@ TEST_F(EcranFF1, DeletingAPersonShowsTheLastAndLeavesItsMonthsInTheFreedRow) {
   EXPECT_EQ(f.CoefCalc[0]->Text(), "1");
 }
 
+TEST_F(EcranFF1, EnterOnTheBonusMonthSkipsTheMarksOnlyForTheDomicileMark) {
+  {
+    // A foreign person has no deductions either, but walks on to his marks.
+    Program p;
+    p.FisaNoua("9840501123452", "15/03/2002");
+    Fisa1F& f = p.F1();
+    ASSERT_FALSE(f.ChAc.Enabled());
+    p.D().UserFocus(f.LuPrima);
+    p.Enter();
+    EXPECT_EQ(p.D().Focused(), f.Bif[2]);
+  }
+  {
+    Program p;
+    p.EcranAngajat();
+    p.Scrie(p.II().CodS, kCod);
+    p.Scrie(p.II().NumeS, "POPESCU");
+    p.Click(p.II().Ok_Fisa1);
+    p.Click(p.II().Xdedu);
+    p.Click(p.II().Command1);
+    Fisa1F& f = p.F1();
+    ASSERT_EQ(p.Fisa().FlagDedu, "X");
+    p.D().UserFocus(f.LuPrima);
+    p.Enter();
+    EXPECT_EQ(p.D().Focused(), &f.Command8);
+  }
+}
+
+TEST_F(EcranFF1, TheDeductionViewerReadsTheTableAfreshForTheSheet) {
+  Program p;
+  p.FisaNoua(kCod);
+  Fisa1F& f = p.F1();
+  // The file changes under the running program: January's deduction now
+  // covers the whole income.
+  std::string text = test::ReadBytes(p.dir / "Cuantum.txt");
+  std::size_t at = text.find(" 1,1600000,");
+  ASSERT_NE(at, std::string::npos);
+  text.replace(at, 11, " 1,3000000,");
+  test::WriteBytes(p.dir / "Cuantum.txt", text);
+
+  p.Click(f.Command3);
+  p.Completeaza(*f.VenitN[0], "3000000", *f.VenitN[1]);
+  EXPECT_NE(f.ImpP[0]->Text(), "0");
+  p.Click(f.Command15);
+  p.Completeaza(*f.VenitN[0], "3000000", *f.VenitN[1]);
+  EXPECT_EQ(f.ImpP[0]->Text(), "0");
+}
+
 TEST_F(EcranFF1, Command12CopiesEveryRowAndAMarkTakenOffLeavesZero) {
   Program p;
   p.FisaNoua(kCod);

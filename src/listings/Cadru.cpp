@@ -103,18 +103,17 @@ BlocAngajator CitesteBlocAngajator(const Files& files) {
   RecordAngajator r = CitesteAngajator(linie);
 
   std::string primaLinie, eticheta, nume;
-  switch (static_cast<int>(Valoare(r.TipAngajator))) {
-    case 1:
-      primaLinie = "1 - cod de inregistrare fiscala/ cod unic de inregistrare";
-      eticheta = "Denumire      : ";
-      nume = r.DenP;
-      break;
-    case 2:
-      primaLinie = "2 - cod numeric personal/ numar de identificare fiscala";
-      eticheta = "Nume,prenume  : ";
-      nume = r.NumeP + " " + r.PrenP;
-      break;
-    default: break;
+  // The type is compared as the number it reads as: "1.5" is neither type,
+  // and a value too large for an integer must not be cut down to one.
+  const double tip = Valoare(r.TipAngajator);
+  if (tip == 1) {
+    primaLinie = "1 - cod de inregistrare fiscala/ cod unic de inregistrare";
+    eticheta = "Denumire      : ";
+    nume = r.DenP;
+  } else if (tip == 2) {
+    primaLinie = "2 - cod numeric personal/ numar de identificare fiscala";
+    eticheta = "Nume,prenume  : ";
+    nume = r.NumeP + " " + r.PrenP;
   }
   BlocAngajator bloc;
   bloc.Linii.push_back(primaLinie);

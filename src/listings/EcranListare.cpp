@@ -26,7 +26,7 @@ void LeagaAlegereaFisei(Control& Combo3, Stare& stare,
       Combo3.SetListIndex(0);
       return;
     }
-    stare.Fisa.CodCurent = CodulDinLista(Combo3.Text());
+    stare.Fisa.CodCurent = CodulDinLista(Combo3.Text()).value_or("");
     stare.Listare.CondListare = kOFisa;
     if (stare.Fisa.CodCurent.empty()) return;
     listeaza(stare.Fisa.CodCurent);

@@ -310,8 +310,11 @@ void FisaII::AlegeDinLista() {
     return;
   }
   const std::string& intrare = Combo1.Item(Combo1.ListIndex());
-  std::string cod = CodulDinLista(intrare);
-  if (cod.empty()) Fail(err::InvalidCall);
+  // Only an entry without the "--" marks is refused; a record with an empty
+  // code still gives an entry, and its empty code is taken as it is.
+  std::optional<std::string> gasit = CodulDinLista(intrare);
+  if (!gasit) Fail(err::InvalidCall);
+  const std::string& cod = *gasit;
   bool ff1 = intrare.find("--" + cod + "--FF1") != std::string::npos;
 
   f.CodCurent = cod;

@@ -18,11 +18,11 @@ void AdaugaFise(Control& lista, const Files& files, std::string_view fisier,
   }
 }
 
-std::string CodulDinLista(std::string_view intrare) {
+std::optional<std::string> CodulDinLista(std::string_view intrare) {
   std::size_t inceput = intrare.find("--");
-  if (inceput == std::string_view::npos) return {};
+  if (inceput == std::string_view::npos) return std::nullopt;
   std::size_t capat = intrare.find("--FF", inceput + 2);
-  if (capat == std::string_view::npos) return {};
+  if (capat == std::string_view::npos) return std::nullopt;
   return std::string(intrare.substr(inceput + 2, capat - inceput - 2));
 }
 

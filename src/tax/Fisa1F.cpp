@@ -2,6 +2,7 @@
 
 #include "app/Stare.h"
 #include "listings/Imagine.h"
+#include "params/Cuantum.h"
 #include "platform/Failure.h"
 #include "platform/Layout.h"
 #include "records/CititorCampuri.h"
@@ -230,9 +231,10 @@ Fisa1F::Fisa1F(Desktop& desktop, Platforma& platforma, Stare& stare)
 
   // The sheet as it will print, from the screen, before any save.
   Command10.Click = [this] { ImagineFF1(p_, s_, FisaDinEcran()); };
-  // The tables come with their editors.
+  // The tables come with their editors. The deductions are read afresh
+  // before they are viewed, and from then on the sheet works with them.
   Command14.Click = [] {};
-  Command15.Click = [] {};
+  Command15.Click = [this] { IncarcaCuantum(p_.files, s_.Parametri); };
 
   Command1.Click = [this] { ArataDoar(Fisa1_III); };
   Command2.Click = [this] { Command2_Click(); };

@@ -70,7 +70,9 @@ void Fisa1F::LeagaVenituri() {
   LuPrima.LostFocus = [this] { IesireLuPrima(); };
   LuPrima.KeyPress = [this](int& key) {
     if (key != kKeyEnter) return;
-    if (FaraDeduceri())
+    // Only the domicile mark skips the marks column: a foreign person's
+    // sheet walks on down it.
+    if (s_.Fisa.FlagDedu == "X")
       Command8.SetFocus();
     else
       Camp(Bif, s_.Fisa.LunaPrima).SetFocus();
