@@ -88,6 +88,13 @@ std::vector<std::string> BlocAngajat(const AntetFisa& a) {
   return linii;
 }
 
+std::vector<std::string> BlocSemnatura(std::string_view nume, std::string_view functie) {
+  return {"   Sub sanctiunile aplicate faptei de fals in acte publice, declar ca datele din",
+          "aceasta fisa fiscala sunt corecte si complete.", "Nume, prenume  " + std::string(nume),
+          "Functia  " + std::string(functie),
+          "Semnatura si stampila angajatorului__________________________________________"};
+}
+
 std::string LiniaExemplar(std::string_view exemplar) {
   std::string cine = Majuscule(Trim(exemplar));
   if (cine == "ANGAJAT" || cine == "UNITATEA FISCALA")

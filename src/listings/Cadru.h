@@ -61,6 +61,8 @@ std::string AdresaAngajat(const AntetFisa& a);
 // The employee's block of a sheet listing: his code, then his name and his
 // address in pieces of 63.
 std::vector<std::string> BlocAngajat(const AntetFisa& a);
+// The foot of a sheet: the employer's declaration and the signer.
+std::vector<std::string> BlocSemnatura(std::string_view nume, std::string_view functie);
 
 // Line 1 of a sheet: "(copie pentru ...)" or "(original pentru ...)"; empty
 // for an addressee that is none of the three.

@@ -273,11 +273,7 @@ void ListaFF1::ScrieFisa(FisaFF1& f, const TabelDed* ded, short nrPersoane) {
   Linie(U80);
   Rand("VIII. VENIT NET DIN SALARII SCUTIT DE IMPOZITUL PE VENIT :  ", f.Reg[12], 20);
   Linie(U80);
-  Linie("   Sub sanctiunile aplicate faptei de fals in acte publice, declar ca datele din");
-  Linie("aceasta fisa fiscala sunt corecte si complete.");
-  Linie("Nume, prenume  " + nume_);
-  Linie("Functia  " + functie_);
-  Linie("Semnatura si stampila angajatorului__________________________________________");
+  for (const std::string& l : BlocSemnatura(nume_, functie_)) Linie(l);
 }
 
 void ListaFF1::Dependenti(const TabelDed& ded, short nrPersoane) {

@@ -91,11 +91,7 @@ void ListaFF2::ScrieFisa(FisaFF2& f) {
     Linie(std::string(kLuni[i]) + AliniazaDreapta(venit, 20) + AliniazaDreapta(impozit, 25));
   }
   Linie(U80);
-  Linie("   Sub sanctiunile aplicate faptei de fals in acte publice, declar ca datele din");
-  Linie("aceasta fisa fiscala sunt corecte si complete.");
-  Linie("Nume, prenume  " + nume_);
-  Linie("Functia  " + functie_);
-  Linie("Semnatura si stampila angajatorului__________________________________________");
+  for (const std::string& l : BlocSemnatura(nume_, functie_)) Linie(l);
 }
 
 }  // namespace fisc
