@@ -7,7 +7,7 @@
 #include "Generator.h"
 #include "app/Aplicatie.h"
 #include "app/Schimb.h"
-#include "app/Sortare.h"
+#include "sheets/Sortare.h"
 #include "app/Stare.h"
 #include "listings/Borderou.h"
 #include "listings/Cadru.h"

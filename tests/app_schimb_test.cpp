@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "app/RecordAngajator.h"
+#include "sheets/RecordAngajator.h"
 #include "app/Schimb.h"
 #include "platform/Failure.h"
 #include "platform/Files.h"

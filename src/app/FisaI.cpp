@@ -1,6 +1,6 @@
 #include "app/FisaI.h"
 
-#include "app/RecordAngajator.h"
+#include "sheets/RecordAngajator.h"
 #include "app/Stare.h"
 #include "platform/Layout.h"
 #include "records/CititorCampuri.h"

@@ -3,7 +3,7 @@
 #include "app/Discheta.h"
 #include "app/FisaI.h"
 #include "app/Schimb.h"
-#include "app/Sortare.h"
+#include "sheets/Sortare.h"
 #include "app/Stare.h"
 #include "listings/Borderou.h"
 #include "listings/Centralizator.h"

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "app/RecordAngajator.h"
+#include "sheets/RecordAngajator.h"
 #include "platform/Failure.h"
 #include "platform/Files.h"
 #include "records/CititorCampuri.h"

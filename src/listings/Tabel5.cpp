@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "app/Sortare.h"
+#include "sheets/Sortare.h"
 #include "listings/Cadru.h"
 #include "listings/Randuri.h"
 #include "platform/Files.h"

@@ -5,25 +5,9 @@
 #include "platform/Desktop.h"
 #include "platform/Failure.h"
 #include "platform/Form.h"
+#include "platform/SortNoCase.h"
 
 namespace fisc {
-
-namespace {
-// Case is folded for A to Z only, whatever the locale of the process.
-unsigned char Mica(char c) {
-  auto u = static_cast<unsigned char>(c);
-  return u >= 'A' && u <= 'Z' ? static_cast<unsigned char>(u + ('a' - 'A')) : u;
-}
-}  // namespace
-
-bool LessNoCase(std::string_view a, std::string_view b) {
-  std::size_t n = std::min(a.size(), b.size());
-  for (std::size_t i = 0; i < n; ++i) {
-    unsigned char x = Mica(a[i]), y = Mica(b[i]);
-    if (x != y) return x < y;
-  }
-  return a.size() < b.size();
-}
 
 namespace {
 bool EqualNoCase(std::string_view a, std::string_view b) {
@@ -138,32 +122,8 @@ Control& Control::SetListOnly(bool listOnly) {
 void Control::SortIfNeeded() const {
   if (!unsorted_) return;
   // Items come in by the thousand when a list is filled from a file; they are
-  // sorted once when the list is next read, not at every insert. Each item is
-  // folded to lower case once, into one buffer, and the folded forms compare
-  // as plain bytes: the order of LessNoCase at a fraction of its cost.
-  std::size_t total = 0;
-  for (const std::string& item : items_) total += item.size();
-  std::string mici;
-  mici.reserve(total);
-  for (const std::string& item : items_)
-    for (char c : item) mici.push_back(static_cast<char>(Mica(c)));
-  struct Cheie {
-    std::string_view text;
-    std::size_t index;
-  };
-  std::vector<Cheie> chei;
-  chei.reserve(items_.size());
-  std::size_t at = 0;
-  for (std::size_t i = 0; i < items_.size(); ++i) {
-    chei.push_back({std::string_view(mici).substr(at, items_[i].size()), i});
-    at += items_[i].size();
-  }
-  std::stable_sort(chei.begin(), chei.end(),
-                   [](const Cheie& a, const Cheie& b) { return a.text < b.text; });
-  std::vector<std::string> ordonate;
-  ordonate.reserve(items_.size());
-  for (const Cheie& c : chei) ordonate.push_back(std::move(items_[c.index]));
-  items_.swap(ordonate);
+  // sorted once when the list is next read, not at every insert.
+  SortNoCase(items_);
   unsorted_ = false;
 }
 

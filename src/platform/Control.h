@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/SortNoCase.h"
+
 namespace fisc {
 
 class Form;
@@ -132,8 +134,5 @@ class Control {
   int tabIndex_ = 0;
   bool tabStop_ = true;
 };
-
-// Case-insensitive order of the sorted lists.
-bool LessNoCase(std::string_view a, std::string_view b);
 
 }  // namespace fisc

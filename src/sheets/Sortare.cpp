@@ -1,4 +1,4 @@
-#include "app/Sortare.h"
+#include "sheets/Sortare.h"
 
 #include "platform/Control.h"
 #include "platform/Failure.h"

@@ -1,4 +1,4 @@
-#include "app/RecordAngajator.h"
+#include "sheets/RecordAngajator.h"
 
 #include "records/CititorCampuri.h"
 #include "records/Numere.h"

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "app/Aplicatie.h"
-#include "app/Sortare.h"
+#include "sheets/Sortare.h"
 #include "platform/Desktop.h"
 #include "platform/Failure.h"
 #include "platform/Files.h"
