@@ -3,7 +3,6 @@
 #include "app/Discheta.h"
 #include "app/FisaI.h"
 #include "app/Schimb.h"
-#include "sheets/Sortare.h"
 #include "app/Stare.h"
 #include "listings/Borderou.h"
 #include "listings/Centralizator.h"
@@ -18,6 +17,9 @@
 #include "records/Date.h"
 #include "records/Judete.h"
 #include "sheets/FisiereSet.h"
+#include "sheets/Sortare.h"
+#include "verify/Preluare.h"
+#include "verify/VerifFis.h"
 
 namespace fisc {
 
@@ -106,10 +108,8 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
     GolesteSortare();
     if (!DataCorecta()) return;
     // The verification learns the year from this file.
-    p_.files.DeleteIfExists("tr12.txt");
-    LineWriter tr = p_.files.Write("tr12.txt");
-    tr.Line(s_.Parametri.AnFiscal);
-    tr.Close();
+    ScrieAnulConvertorului(p_.files, s_.Parametri.AnFiscal);
+    Verif_fis->Show();
     Command1.SetFocus();
   };
 

@@ -7,6 +7,7 @@
 #include "params/Cuantum.h"
 #include "params/Impozitar.h"
 #include "sheets/FisaInLucru.h"
+#include "verify/StareVerificare.h"
 
 namespace fisc {
 
@@ -19,6 +20,7 @@ struct Stare {
   std::string CodAngajator, TipAngajator, JudetAngajator;
   FisaInLucru Fisa;
   StareListare Listare;
+  StareVerificare Verificare;
 };
 
 }  // namespace fisc

@@ -21,4 +21,8 @@ RecordAngajator CitesteAngajator(std::string_view line);
 // any type but 1 is written as 2 with an empty denomination.
 std::string ScrieAngajator(const RecordAngajator& r);
 
+// A record of SablonAngajatorTipText, whose employer type an earlier release
+// wrote as a text field, with the type as a bare field and the rest as it was.
+std::string TipCaCampSimplu(std::string_view line);
+
 }  // namespace fisc
