@@ -8,10 +8,10 @@
 #include <iostream>
 #include <string>
 
-#include "app/VerifyCommand.h"
 #include "platform/qt/FrontEnd.h"
 #include "platform/qt/QtPrinter.h"
 #include "replay/Replay.h"
+#include "replay/VerifyCommand.h"
 
 namespace {
 

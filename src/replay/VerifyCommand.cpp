@@ -1,4 +1,4 @@
-#include "app/VerifyCommand.h"
+#include "replay/VerifyCommand.h"
 
 #include <iostream>
 #include <string>

@@ -4,8 +4,8 @@
 #include <regex>
 #include <sstream>
 
-#include "app/VerifyCommand.h"
 #include "platform/InstantaUnica.h"
+#include "replay/VerifyCommand.h"
 #include "support/TestSupport.h"
 
 namespace fisc {
