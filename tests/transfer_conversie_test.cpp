@@ -220,6 +220,17 @@ TEST_F(Transfer, StructuralFaultsGoToFerrAndNoTextIsWritten) {
   TexteleNeatinse();
 }
 
+TEST_F(Transfer, AHeaderWhoseFieldsDoNotMakeItsRecordIsUnreadable) {
+  DoarDbf();
+  std::string ded = Citeste("Ded_2002.dbf");
+  ded[10] = static_cast<char>(ded[10] + 1);  // the record length, low byte
+  Scrie("Ded_2002.dbf", ded);
+  EXPECT_EQ(DbfInText(files_, "2002"),
+            std::vector<std::string>{"Ded_2002.dbf: se astepta un fisier dBase, s-a gasit un "
+                                     "fisier care nu poate fi citit."});
+  TexteleNeatinse();
+}
+
 TEST_F(Transfer, AFieldTwiceIsAFault) {
   DoarDbf();
   DBFHandle h = DBFOpen((dir_ / "Rep_2002.dbf").c_str(), "rb+");

@@ -46,7 +46,21 @@ bool AcelasiNume(std::string_view a, std::string_view b) {
 }  // namespace
 
 TabelaDbf TabelaDbf::Deschide(const std::filesystem::path& cale) {
-  return TabelaDbf(DBFOpenLL(cale.c_str(), "rb", Hooks()));
+  TabelaDbf tabela(DBFOpenLL(cale.c_str(), "rb", Hooks()));
+  if (!tabela.Valida()) return tabela;
+  // A header whose fields don't add up to its record length isn't dBase,
+  // whatever its first bytes say.
+  const int campuri = DBFGetFieldCount(tabela.handle_);
+  long lungime = 1;
+  for (int i = 0; i < campuri; ++i) {
+    int latime = 0;
+    DBFGetFieldInfo(tabela.handle_, i, nullptr, &latime, nullptr);
+    lungime += latime;
+  }
+  if (campuri == 0 || lungime != tabela.handle_->nRecordLength ||
+      tabela.handle_->nHeaderLength < 32 * (campuri + 1) + 1)
+    tabela.Inchide();
+  return tabela;
 }
 
 TabelaDbf TabelaDbf::Creeaza(const std::filesystem::path& cale, const FisierDbf& fisier, int an,
