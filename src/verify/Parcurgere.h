@@ -34,6 +34,17 @@ class Parcurgere {
   std::size_t pozitie_ = 0;
 };
 
+// The characters `from` (1-based) to `from + length - 1`, as much as there is.
+inline std::string_view Mijloc(std::string_view text, std::size_t from, std::size_t length) {
+  if (from == 0 || from > text.size()) return {};
+  return text.substr(from - 1, length);
+}
+
+// The last `length` characters, or the whole text when it is shorter.
+inline std::string_view Dreapta(std::string_view text, std::size_t length) {
+  return text.size() <= length ? text : text.substr(text.size() - length);
+}
+
 // The text before the first `delimiter`, the whole text when there is none.
 inline std::string_view Inainte(std::string_view text, std::string_view delimiter) {
   return text.substr(0, text.find(delimiter));

@@ -19,23 +19,6 @@ constexpr int kInchideriCap = 17;
 // Fields 75 to 86 of the tail, by their place.
 constexpr std::size_t kLuni = 0, kChAc = 1, kReg10 = 9, kReg11 = 10, kReg12 = 11;
 
-// The characters `from` (1-based) to `from + length - 1`, as much as there is.
-std::string_view Mijloc(std::string_view text, std::size_t from, std::size_t length) {
-  if (from > text.size()) return {};
-  return text.substr(from - 1, length);
-}
-
-std::string_view Dreapta(std::string_view text, std::size_t length) {
-  return text.size() <= length ? text : text.substr(text.size() - length);
-}
-
-// The month index 0 to 11 of a date that ver_ff1 has let through.
-std::size_t IndexLuna(std::string_view data) {
-  double luna = Valoare(Mijloc(data, 4, 2));
-  if (luna < 1 || luna > 12) Fail(err::SubscriptOutOfRange);
-  return static_cast<std::size_t>(luna) - 1;
-}
-
 // An FF1 record taken apart by the position of its separators.
 struct FF1Desfacut {
   std::string_view cap21;   // up to the comma behind field 21, the start date
@@ -86,6 +69,12 @@ std::string Compune(std::string_view cap21, std::string_view data22, const FF1De
 }
 
 }  // namespace
+
+std::size_t IndexLuna(std::string_view data) {
+  double luna = Valoare(Mijloc(data, 4, 2));
+  if (luna < 1 || luna > 12) Fail(err::SubscriptOutOfRange);
+  return static_cast<std::size_t>(luna) - 1;
+}
 
 std::string DataNormala(std::string_view text) {
   std::string data(Trim(text));

@@ -13,6 +13,10 @@ namespace fisc {
 // the DBF form "aaaallzz" turned round.
 std::string DataNormala(std::string_view data);
 
+// The month index 0 to 11 of a date: characters 4 and 5, so that "15/3/2002"
+// gives 2. A date the checks let through has one; else failure 9.
+std::size_t IndexLuna(std::string_view data);
+
 // The sort line of a record: code, start, end, then the record with its two
 // dates in the normal form, all joined by commas.
 std::string ver_data(std::string_view record);

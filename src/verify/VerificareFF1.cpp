@@ -48,15 +48,6 @@ std::optional<std::tuple<int, int, int>> CitesteZiLunaAn(std::string_view text) 
 
 bool EsteData(std::string_view text) { return CitesteZiLunaAn(text).has_value(); }
 
-std::string_view Dreapta(std::string_view text, std::size_t length) {
-  return text.size() <= length ? text : text.substr(text.size() - length);
-}
-
-// The month index of a date, 0 to 11: characters 4 and 5, so "15/3/2002" works.
-int IndexLuna(std::string_view data) {
-  return static_cast<int>(Valoare(data.size() > 3 ? data.substr(3, 2) : std::string_view())) - 1;
-}
-
 std::string Suma(double valoare) { return TextDin(valoare); }
 
 class VerificareFisa {
@@ -68,8 +59,8 @@ class VerificareFisa {
   void ver_inreg_ff1(std::string_view record) {
     const FisaFF1 f = CitesteFF1(record);
     cod_ = f.Antet.CodS;
-    const int prima = f.DataAngajarii.empty() ? 0 : IndexLuna(f.DataAngajarii);
-    const int ultima = f.DataIncetarii.empty() ? 11 : IndexLuna(f.DataIncetarii);
+    const int prima = f.DataAngajarii.empty() ? 0 : static_cast<int>(IndexLuna(f.DataAngajarii));
+    const int ultima = f.DataIncetarii.empty() ? 11 : static_cast<int>(IndexLuna(f.DataIncetarii));
 
     bool areCoef2 = false, areCoef15 = false, coefGresit = false;
     for (const std::string& text : f.CoefProp) {
@@ -85,7 +76,7 @@ class VerificareFisa {
       sumaImpozit += Valoare(f.ImpC[i]);
     }
 
-    if (!VerificaCNP(cod_)) Linie("CNP " + cod_ + " eronat.");
+    if (!VerificaCNP(cod_)) lista_.Eroare("CNP " + cod_ + " eronat.");
     const bool inv1 = f.FlagInv1 == "X", inv2 = f.FlagInv2 == "X";
     if (inv1 != areCoef2 || inv2 != areCoef15)
       Eroare(" coef.de deducere pentru situatie proprienecorelati cu marcajul pentru handicap.");
@@ -206,7 +197,7 @@ class VerificareFisa {
              Suma(restituit) + " (cea corecta).");
   }
 
-  void Linie(const std::string& linie) { lista_.Eroare(linie); }
+  // A line of this sheet: its code, then the text, which starts with a blank.
   void Eroare(const std::string& dupaCod) { lista_.Eroare(cod_ + dupaCod); }
 
   ListaErori& lista_;
