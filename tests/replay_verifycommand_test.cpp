@@ -58,6 +58,18 @@ TEST_F(VerifyCommand, EmptyFilesAsTheyLieAreNothingToMend) {
   EXPECT_TRUE(fs::exists(dir / "Rep_2001.txt"));
 }
 
+// The kept copy that the summary names is there to be read.
+TEST_F(VerifyCommand, AListWithErrorsIsStatusOneAndNamesItsKeptCopy) {
+  WriteBytes(dir / "FF2_2002.txt", Lines({"nu este o fisa"}));
+  EXPECT_EQ(Run(false, false), 1) << err.str();
+  std::smatch m;
+  std::string o = out.str();
+  ASSERT_TRUE(std::regex_match(
+      o, m, std::regex(R"(erori\.txt sections 1-6:( \d+){6} lines; errors, kept in (\S+)\n)")))
+      << o;
+  EXPECT_EQ(ReadBytes(dir / m[2].str()), ReadBytes(dir / "erori.txt"));
+}
+
 TEST_F(VerifyCommand, TheDbfRouteGoesOnToTheChecksAfterAConverterThatWroteNothing) {
   DbfAnului();
   Convertor("exit 0\n");

@@ -39,7 +39,7 @@ bool ConvertesteRep(Files& files, const std::string& repY, bool canalBlocat) {
     }
     convertit = StructuraRecord(line, SablonAngajatorTipText);
     LineWriter out = files.Write(fisier::Temp1);
-    if (convertit) out.Line(TipCaCampSimplu(line));
+    if (convertit) out.Line(AngajatorCuTipNumeric(line));
     out.Close();
   });
   Pas([&] {

@@ -40,16 +40,16 @@ std::string ScrieAngajator(const RecordAngajator& r) {
   return s;
 }
 
-std::string TipCaCampSimplu(std::string_view line) {
-  // The code up to the first ",#", the type from there up to the next "#,#"
-  // without its marks, then the rest from the comma of that "#,#".
+std::string AngajatorCuTipNumeric(std::string_view line) {
   std::size_t a = line.find(",#");
-  std::size_t b = line.find("#,#", a + 2);
-  std::string r(line.substr(0, a));
-  r += ',';
-  r += line.substr(a + 2, b - a - 2);
-  r += line.substr(b + 1);
-  return r;
+  std::size_t b = a == std::string_view::npos ? a : line.find("#,#", a + 2);
+  if (b == std::string_view::npos) return std::string(line);
+  // The code, the type without its marks, then all from the comma behind it.
+  std::string s(line.substr(0, a));
+  s += ',';
+  s += line.substr(a + 2, b - a - 2);
+  s += line.substr(b + 1);
+  return s;
 }
 
 }  // namespace fisc

@@ -97,7 +97,7 @@ void copy_txt_disc(Platforma& p, std::string_view an, StareVerificare& v) {
     std::string linie = files.Read(fisier::Repfisc).Line();
     if (StructuraRecord(linie, SablonAngajatorTipText)) {
       LineWriter out = files.Write(fisier::Temp1);
-      out.Line(TipCaCampSimplu(linie));
+      out.Line(AngajatorCuTipNumeric(linie));
       out.Close();
       files.Replace(fisier::Temp1, fisier::Repfisc);
       CopyFileAtomic(files.Path(fisier::Repfisc), disc.Path(rep));

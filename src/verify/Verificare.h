@@ -3,15 +3,16 @@
 #include <string>
 
 #include "params/Impozitar.h"
+
 namespace fisc {
 class Files;
 struct ParametriAn;
 struct RezultatVerificare {
   bool ExistaErori = false;
   bool CorelareAbandonata = false;
-  std::string CodVerificat;         // the employer code of the last Repfisc.txt record
-  std::string NumeCopie;            // "erori_<cod>.txt", the code taken as a number
-  std::string Mesaj;                // the text of the closing box when ExistaErori is false
+  std::string CodVerificat;             // the employer code of the last Repfisc.txt record
+  std::string NumeCopie;                // "erori_<cod>.txt", the code taken as a number
+  std::string Mesaj;                    // the text of the closing box when ExistaErori is false
   std::array<long, 6> LiniiSectiune{};  // lines written under each of the six section headings
 };
 // The whole check pass over the working files (steps 1 to 11 of `but_verif`
