@@ -23,6 +23,8 @@ Aplicatie::Aplicatie(Platforma& platforma)
   intro.Centralizator = &listabIV;
   intro.ListareF1 = &lisFise1;
   intro.ListareF2 = &lisFise2;
+  intro.Alte_Functii = &alteFunctii;
+  alteFunctii.GolesteAngajator = [this] { fisaI.GolesteAngajator(); };
 }
 
 bool Aplicatie::Porneste() {

@@ -18,6 +18,7 @@
 #include "sheets/FrmGasit.h"
 #include "tax/Fisa1F.h"
 #include "tax/Fisa2.h"
+#include "yearops/AlteFunctii.h"
 
 namespace fisc {
 
@@ -51,6 +52,7 @@ class Aplicatie {
   ListabIV listabIV{desktop_, p_, stare_};
   LisFise1 lisFise1{desktop_, p_, stare_};
   LisFise2 lisFise2{desktop_, p_, stare_};
+  AlteFunctii alteFunctii{desktop_, p_, stare_.Parametri, stare_.Impozitar};
 };
 
 }  // namespace fisc

@@ -3,7 +3,6 @@
 #include "app/Discheta.h"
 #include "app/FisaI.h"
 #include "app/Schimb.h"
-#include "sheets/Sortare.h"
 #include "app/Stare.h"
 #include "listings/Borderou.h"
 #include "listings/Centralizator.h"
@@ -18,6 +17,8 @@
 #include "records/Date.h"
 #include "records/Judete.h"
 #include "sheets/FisiereSet.h"
+#include "sheets/Sortare.h"
+#include "yearops/AlteFunctii.h"
 
 namespace fisc {
 
@@ -115,8 +116,10 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
 
   Command6.Click = [this] {
     GolesteSortare();
-    DataCorecta();
+    if (DataCorecta()) Alte_Functii->Show();
   };
+  b_salv.Click = [this] { Alte_Functii->Salvare(); };
+  b_rest.Click = [this] { Alte_Functii->Restaurare(); };
   Command8.Click = [this] { GolesteSortare(); };
   Command10.Click = [this] {
     GolesteSortare();

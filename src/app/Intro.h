@@ -12,6 +12,7 @@ class LisBord;
 class ListabIV;
 class LisFise1;
 class LisFise2;
+class AlteFunctii;
 
 class Intro : public Form {
  public:
@@ -45,6 +46,7 @@ class Intro : public Form {
   ListabIV* Centralizator = nullptr;
   LisFise1* ListareF1 = nullptr;
   LisFise2* ListareF2 = nullptr;
+  AlteFunctii* Alte_Functii = nullptr;
 
  private:
   // Clears Check1, which deletes the alphabetical copies of the sheets.

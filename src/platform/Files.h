@@ -82,6 +82,12 @@ class Files {
   // Names of the files of a directory below the working one ("" for it).
   std::vector<std::string> List(std::string_view subdirectory = "") const;
 
+  // Directories below the working one, their names compared as file names.
+  bool IsDirectory(std::string_view name) const;
+  void MakeDirectory(std::string_view name);  // 75 when it exists or can't be made
+  // The files of such a directory, served the same way.
+  Files Subdirectory(std::string_view name) const;
+
  private:
   std::filesystem::path directory_;
 };
