@@ -84,7 +84,8 @@ class Files {
 
   // Directories below the working one, their names compared as file names.
   bool IsDirectory(std::string_view name) const;
-  void MakeDirectory(std::string_view name);  // 75 when it exists or can't be made
+  // Fails as the platform does: 75 when something stands there already.
+  void MakeDirectory(std::string_view name);
   // The files of such a directory, served the same way.
   Files Subdirectory(std::string_view name) const;
 
