@@ -1,6 +1,8 @@
 #include "records/Numere.h"
 
+#include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 
@@ -9,9 +11,48 @@ namespace fisc {
 namespace {
 bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+constexpr double kPutere10[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+// The common case of the files: a plain number of at most 15 digits, ended by
+// the end of the text or a character that can't continue it. Its value is
+// exact in a double, and so is the power of ten that places its point, so
+// one division rounds it exactly as strtod does. False for anything else.
+bool ValoareSimpla(std::string_view text, double& value) {
+  std::size_t i = 0;
+  bool minus = false;
+  if (i < text.size() && (text[i] == '-' || text[i] == '+')) minus = text[i++] == '-';
+  std::int64_t mantisa = 0;
+  int cifre = 0, zecimale = 0;
+  bool punct = false;
+  for (; i < text.size(); ++i) {
+    char c = text[i];
+    if (IsDigit(c)) {
+      mantisa = mantisa * 10 + (c - '0');
+      ++cifre;
+      if (punct) ++zecimale;
+    } else if (c == '.' && !punct) {
+      punct = true;
+    } else {
+      // Blanks are skipped inside a number and an exponent may follow: the
+      // full reading decides those.
+      if (IsBlank(c) || c == 'e' || c == 'E' || c == 'd' || c == 'D') return false;
+      break;
+    }
+  }
+  if (cifre == 0 || cifre > 15) return false;
+  value = static_cast<double>(mantisa) / kPutere10[zecimale];
+  if (minus) value = -value;
+  if (value == 0) value = 0.0;
+  return true;
+}
+
 }  // namespace
 
 double Valoare(std::string_view text) {
+  double simpla;
+  if (ValoareSimpla(text, simpla)) return simpla;
   // Gather the numeric prefix with the blanks taken out, then convert it.
   std::string number;
   std::size_t i = 0;
@@ -66,6 +107,12 @@ double Valoare(std::string_view text) {
 
 std::string TextDin(double value) {
   if (value == 0 || std::isnan(value)) return "0";
+  // Whole amounts of up to 15 digits, the usual case, print as %.15g does.
+  if (std::fabs(value) < 1e15 && value == std::trunc(value)) {
+    char text[24];
+    auto end = std::to_chars(text, text + sizeof text, static_cast<std::int64_t>(value)).ptr;
+    return std::string(text, end);
+  }
   char text[64];
   std::snprintf(text, sizeof text, "%.15g", value);
   if (std::string_view(text).find('e') == std::string_view::npos) return text;
@@ -86,7 +133,11 @@ std::string PunctZecimal(std::string_view text) {
   return s;
 }
 
-double ValZecimal(std::string_view text) { return Valoare(PunctZecimal(text)); }
+double ValZecimal(std::string_view text) {
+  // Files hold "." already: only a comma typed on a screen needs the copy.
+  if (text.find(',') == std::string_view::npos) return Valoare(text);
+  return Valoare(PunctZecimal(text));
+}
 
 std::string TextZecimal(std::string_view text) { return PunctZecimal(TextDin(ValZecimal(text))); }
 

@@ -10,10 +10,12 @@ namespace {
 double Ded(const ParametriAn& p, int i) { return p.DedLuna[static_cast<std::size_t>(i)]; }
 
 // The coefficient that counts for the tax; the sheet keeps the one typed.
-double CoefPlafonat(std::string_view coefCalc, const ParametriAn& p) {
+double CoefPlafonat(std::string_view coefCalc, double maxim) {
   double c = ValZecimal(coefCalc);
-  double maxim = ValZecimal(p.CoefMaxim);
   return c > maxim ? maxim : c;
+}
+double CoefPlafonat(std::string_view coefCalc, const ParametriAn& p) {
+  return CoefPlafonat(coefCalc, ValZecimal(p.CoefMaxim));
 }
 
 double ImpozitPeBaza(int i, double baza, const TabelImpozit& tabel) {
@@ -85,7 +87,8 @@ Regularizare CalculeazaRegularizare(const DateRegularizare& date, const Parametr
   // Every month takes the annual deduction, the one corrected with inflation,
   // rounded month by month before the sum.
   double deduceri = 0;
-  for (const std::string& c : date.CoefCalc) deduceri += Rotunjeste(CoefPlafonat(c, p) * dedAn);
+  double maxim = ValZecimal(p.CoefMaxim);
+  for (const std::string& c : date.CoefCalc) deduceri += Rotunjeste(CoefPlafonat(c, maxim) * dedAn);
   reg[4] = reg[0] == 0 ? 0 : deduceri;
   reg[5] = reg[3] - reg[4] > 0 ? reg[3] - reg[4] : 0;
 

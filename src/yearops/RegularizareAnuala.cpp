@@ -1,5 +1,8 @@
 #include "yearops/RegularizareAnuala.h"
 
+#include <array>
+
+#include "platform/Failure.h"
 #include "platform/Files.h"
 #include "records/CititorCampuri.h"
 #include "records/Numere.h"
@@ -41,24 +44,29 @@ void RegularizeazaRecord(std::string_view record, const ParametriAn& p, const Ta
   c.Camp(delim::Text);      // FlagInv1
   c.Camp(delim::Text);      // FlagInv2
   c.Camp(delim::TextBare);  // field 20
-  std::string_view dataAngajarii = c.Camp(delim::Bare);
-  std::string_view dataIncetarii = c.Camp(delim::Bare);
-  DateRegularizare date;
-  for (std::string& coef : date.CoefCalc) coef = c.Camp(delim::Bare);
-  for (int i = 0; i < 12; ++i) c.Camp(delim::Bare);  // CoefProp
-  for (int i = 0; i < 13; ++i) {
-    c.Camp(delim::Bare);
-    c.Camp(delim::Bare);
+  // Fields 21 to 86 are bare: one walk finds the commas between them.
+  constexpr int kCampuri = 86 - 21 + 1;
+  std::array<std::string_view, kCampuri> camp;
+  std::size_t inceput = c.Pozitie();
+  for (int k = 0; k + 1 < kCampuri; ++k) {
+    std::size_t virgula = record.find(',', inceput);
+    if (virgula == std::string_view::npos) Fail(err::InvalidCall);
+    camp[static_cast<std::size_t>(k)] = record.substr(inceput, virgula - inceput);
+    inceput = virgula + 1;
   }
-  date.VenitNet = Valoare(c.Camp(delim::Bare));
-  date.ImpCTotal = Valoare(c.Camp(delim::Bare));
-  date.Luni = Valoare(c.Camp(delim::Bare));
-  date.ChAc = Valoare(c.Camp(delim::Bare));
-  std::size_t sfarsitChAc = c.Pozitie() - 1;
-  for (int i = 0; i < 7; ++i) c.Camp(delim::Bare);  // 77 to 83, computed anew
-  std::string_view venitFinal = c.Camp(delim::Bare);
-  std::string_view impozitFinal = c.Camp(delim::Bare);
-  std::string_view venitScutit = c.Rest();
+  camp[kCampuri - 1] = record.substr(inceput);
+  auto nr = [&](int field) { return camp[static_cast<std::size_t>(field - 21)]; };
+
+  std::string_view dataAngajarii = nr(21), dataIncetarii = nr(22);
+  DateRegularizare date;
+  for (int i = 0; i < 12; ++i) date.CoefCalc[static_cast<std::size_t>(i)] = nr(23 + i);
+  date.VenitNet = Valoare(nr(73));
+  date.ImpCTotal = Valoare(nr(74));
+  date.Luni = Valoare(nr(75));
+  date.ChAc = Valoare(nr(76));
+  // The end of ChAc: the comma before field 77.
+  std::size_t sfarsitChAc = static_cast<std::size_t>(nr(77).data() - record.data()) - 1;
+  std::string_view venitFinal = nr(84), impozitFinal = nr(85), venitScutit = nr(86);
 
   SituatieAngajat situatie{dataAngajarii, dataIncetarii, numeS, flagAlteS, flagDedu, cod};
   bool neReg = ConditiiNeindeplinite(situatie, date.CoefCalc, p);
