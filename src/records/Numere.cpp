@@ -18,19 +18,21 @@ constexpr double kPutere10[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
 // The common case of the files: a plain number of at most 15 digits, ended by
 // the end of the text or a character that can't continue it. Its value is
 // exact in a double, and so is the power of ten that places its point, so
-// one division rounds it exactly as strtod does. False for anything else.
-bool ValoareSimpla(std::string_view text, double& value) {
+// one division rounds it exactly as strtod does. False for anything else;
+// `stop` is the character that ended the number, 0 for the end of the text.
+bool ValoareSimpla(std::string_view text, double& value, char& stop) {
   std::size_t i = 0;
   bool minus = false;
   if (i < text.size() && (text[i] == '-' || text[i] == '+')) minus = text[i++] == '-';
   std::int64_t mantisa = 0;
   int cifre = 0, zecimale = 0;
   bool punct = false;
+  stop = 0;
   for (; i < text.size(); ++i) {
     char c = text[i];
     if (IsDigit(c)) {
+      if (++cifre > 15) return false;
       mantisa = mantisa * 10 + (c - '0');
-      ++cifre;
       if (punct) ++zecimale;
     } else if (c == '.' && !punct) {
       punct = true;
@@ -38,11 +40,13 @@ bool ValoareSimpla(std::string_view text, double& value) {
       // Blanks are skipped inside a number and an exponent may follow: the
       // full reading decides those.
       if (IsBlank(c) || c == 'e' || c == 'E' || c == 'd' || c == 'D') return false;
+      stop = c;
       break;
     }
   }
-  if (cifre == 0 || cifre > 15) return false;
-  value = static_cast<double>(mantisa) / kPutere10[zecimale];
+  if (cifre == 0) return false;
+  value = static_cast<double>(mantisa);
+  if (zecimale > 0) value /= kPutere10[zecimale];
   if (minus) value = -value;
   if (value == 0) value = 0.0;
   return true;
@@ -52,7 +56,8 @@ bool ValoareSimpla(std::string_view text, double& value) {
 
 double Valoare(std::string_view text) {
   double simpla;
-  if (ValoareSimpla(text, simpla)) return simpla;
+  char stop;
+  if (ValoareSimpla(text, simpla, stop)) return simpla;
   // Gather the numeric prefix with the blanks taken out, then convert it.
   std::string number;
   std::size_t i = 0;
@@ -134,8 +139,11 @@ std::string PunctZecimal(std::string_view text) {
 }
 
 double ValZecimal(std::string_view text) {
-  // Files hold "." already: only a comma typed on a screen needs the copy.
-  if (text.find(',') == std::string_view::npos) return Valoare(text);
+  // Files hold "." already: only a number that stops at a comma, as one
+  // typed on a screen may, needs the copy with the comma turned.
+  double simpla;
+  char stop;
+  if (ValoareSimpla(text, simpla, stop) && stop != ',') return simpla;
   return Valoare(PunctZecimal(text));
 }
 
