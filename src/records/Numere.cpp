@@ -12,52 +12,57 @@ namespace {
 bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-constexpr double kPutere10[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-
-// The common case of the files: a plain number of at most 15 digits, ended by
-// the end of the text or a character that can't continue it. Its value is
-// exact in a double, and so is the power of ten that places its point, so
-// one division rounds it exactly as strtod does. False for anything else;
-// `stop` is the character that ended the number, 0 for the end of the text.
-bool ValoareSimpla(std::string_view text, double& value, char& stop) {
+// The value of a plain decimal of at most 15 digits, computed without the
+// general conversion: a whole mantissa over a power of ten, both exact, so the
+// one division rounds as the conversion would. NaN for any other text.
+double Exact(std::string_view number) {
+  static constexpr double kPutere[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                       1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
   std::size_t i = 0;
   bool minus = false;
-  if (i < text.size() && (text[i] == '-' || text[i] == '+')) minus = text[i++] == '-';
+  if (i < number.size() && (number[i] == '-' || number[i] == '+')) minus = number[i++] == '-';
   std::int64_t mantisa = 0;
   int cifre = 0, zecimale = 0;
   bool punct = false;
-  stop = 0;
-  for (; i < text.size(); ++i) {
-    char c = text[i];
-    if (IsDigit(c)) {
-      if (++cifre > 15) return false;
-      mantisa = mantisa * 10 + (c - '0');
-      if (punct) ++zecimale;
-    } else if (c == '.' && !punct) {
+  for (; i < number.size(); ++i) {
+    char c = number[i];
+    if (c == '.') {
       punct = true;
+    } else if (IsDigit(c) && cifre < 15) {
+      mantisa = mantisa * 10 + (c - '0');
+      if (mantisa != 0) ++cifre;
+      if (punct && ++zecimale > 15) return std::nan("");
     } else {
-      // Blanks are skipped inside a number and an exponent may follow: the
-      // full reading decides those.
-      if (IsBlank(c) || c == 'e' || c == 'E' || c == 'd' || c == 'D') return false;
-      stop = c;
-      break;
+      return std::nan("");
     }
   }
-  if (cifre == 0) return false;
-  value = static_cast<double>(mantisa);
-  if (zecimale > 0) value /= kPutere10[zecimale];
-  if (minus) value = -value;
-  if (value == 0) value = 0.0;
-  return true;
+  double value = static_cast<double>(mantisa) / kPutere[zecimale];
+  return minus ? -value : value;
 }
-
 }  // namespace
 
 double Valoare(std::string_view text) {
-  double simpla;
-  char stop;
-  if (ValoareSimpla(text, simpla, stop)) return simpla;
+  // Most fields are a plain number with nothing around it: read in place.
+  {
+    std::size_t j = 0;
+    if (j < text.size() && (text[j] == '-' || text[j] == '+')) ++j;
+    bool digits = false, point = false;
+    for (; j < text.size(); ++j) {
+      if (IsDigit(text[j]))
+        digits = true;
+      else if (text[j] == '.' && !point)
+        point = true;
+      else
+        break;
+    }
+    bool simplu = j == text.size() || !(IsBlank(text[j]) || text[j] == 'e' || text[j] == 'E' ||
+                                        text[j] == 'd' || text[j] == 'D');
+    if (simplu && !(text.size() > 0 && IsBlank(text[0]))) {
+      if (!digits) return 0;
+      double value = Exact(text.substr(0, j));
+      if (!std::isnan(value)) return value == 0 ? 0.0 : value;
+    }
+  }
   // Gather the numeric prefix with the blanks taken out, then convert it.
   std::string number;
   std::size_t i = 0;
@@ -106,19 +111,20 @@ double Valoare(std::string_view text) {
     else
       i = mark;
   }
-  double value = std::strtod(number.c_str(), nullptr);
+  double value = Exact(number);
+  if (std::isnan(value)) value = std::strtod(number.c_str(), nullptr);
   return value == 0 ? 0.0 : value;
 }
 
 std::string TextDin(double value) {
   if (value == 0 || std::isnan(value)) return "0";
-  // Whole amounts of up to 15 digits, the usual case, print as %.15g does.
+  char text[64];
+  // A whole number below 10^15 prints as its digits: the common case, done
+  // without the general format.
   if (std::fabs(value) < 1e15 && value == std::trunc(value)) {
-    char text[24];
     auto end = std::to_chars(text, text + sizeof text, static_cast<std::int64_t>(value)).ptr;
     return std::string(text, end);
   }
-  char text[64];
   std::snprintf(text, sizeof text, "%.15g", value);
   if (std::string_view(text).find('e') == std::string_view::npos) return text;
   // Past the exponent threshold of %g: write it out in full, trimmed.
@@ -139,11 +145,8 @@ std::string PunctZecimal(std::string_view text) {
 }
 
 double ValZecimal(std::string_view text) {
-  // Files hold "." already: only a number that stops at a comma, as one
-  // typed on a screen may, needs the copy with the comma turned.
-  double simpla;
-  char stop;
-  if (ValoareSimpla(text, simpla, stop) && stop != ',') return simpla;
+  // Files hold "." already: only a comma typed on a screen needs the copy.
+  if (text.find(',') == std::string_view::npos) return Valoare(text);
   return Valoare(PunctZecimal(text));
 }
 
