@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdlib>
+
 #include "support/TestSupport.h"
 
 #include "platform/Failure.h"
@@ -21,6 +24,18 @@ TEST(Valoare, TakesTheNumericPrefixWithBlanksSkipped) {
   EXPECT_EQ(Valoare("."), 0);
   EXPECT_EQ(Valoare("1e3"), 1000);
   EXPECT_EQ(Valoare("2e"), 2);
+}
+
+TEST(Valoare, PlainNumbersReadExactlyAsTheFullConversion) {
+  for (const char* text : {"0.15", "1.5", "0.1", "123456789012345", "1234567890123456",
+                           "0.000000000000001", "9.99999999999999", "-0.3", "7.", "00012.50"})
+    EXPECT_EQ(Valoare(text), std::strtod(text, nullptr)) << text;
+  EXPECT_EQ(Valoare("-0"), 0);
+  EXPECT_FALSE(std::signbit(Valoare("-0")));
+  EXPECT_EQ(Valoare("12345678901234567890"), 12345678901234567890.0);
+  EXPECT_EQ(ValZecimal("1,5"), 1.5);
+  EXPECT_EQ(ValZecimal("1.5,3"), 1.5);
+  EXPECT_EQ(ValZecimal("2x,5"), 2);
 }
 
 TEST(TextDin, WritesTheShortestTextWithoutExponent) {

@@ -25,6 +25,8 @@ Aplicatie::Aplicatie(Platforma& platforma)
   intro.ListareF1 = &lisFise1;
   intro.ListareF2 = &lisFise2;
   intro.Verif_fis = &verifFis;
+  intro.Alte_Functii = &alteFunctii;
+  alteFunctii.GolesteAngajator = [this] { fisaI.GolesteAngajator(); };
 }
 
 bool Aplicatie::Porneste() {

@@ -19,6 +19,7 @@
 #include "tax/Fisa1F.h"
 #include "tax/Fisa2.h"
 #include "verify/VerifFis.h"
+#include "yearops/AlteFunctii.h"
 
 namespace fisc {
 
@@ -53,6 +54,7 @@ class Aplicatie {
   LisFise1 lisFise1{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
   LisFise2 lisFise2{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
   VerifFis verifFis{desktop_, p_, stare_.Parametri, stare_.Impozitar, stare_.Verificare};
+  AlteFunctii alteFunctii{desktop_, p_, stare_.Parametri, stare_.Impozitar};
 };
 
 }  // namespace fisc

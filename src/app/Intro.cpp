@@ -22,6 +22,7 @@
 #include "sheets/Sortare.h"
 #include "verify/Preluare.h"
 #include "verify/VerifFis.h"
+#include "yearops/AlteFunctii.h"
 
 namespace fisc {
 
@@ -122,8 +123,10 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, ParametriAn& parametri, int
 
   Command6.Click = [this] {
     GolesteSortare();
-    DataCorecta();
+    if (DataCorecta()) Alte_Functii->Show();
   };
+  b_salv.Click = [this] { Alte_Functii->Salvare(); };
+  b_rest.Click = [this] { Alte_Functii->Restaurare(); };
   Command8.Click = [this] { GolesteSortare(); };
   Command10.Click = [this] {
     GolesteSortare();

@@ -16,6 +16,7 @@ class ListabIV;
 class LisFise1;
 class LisFise2;
 class VerifFis;
+class AlteFunctii;
 
 class Intro : public Form {
  public:
@@ -51,6 +52,7 @@ class Intro : public Form {
   LisFise1* ListareF1 = nullptr;
   LisFise2* ListareF2 = nullptr;
   VerifFis* Verif_fis = nullptr;
+  AlteFunctii* Alte_Functii = nullptr;
 
  private:
   // Clears Check1, which deletes the alphabetical copies of the sheets.

@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -262,5 +263,16 @@ std::vector<std::string> Files::List(std::string_view subdirectory) const {
     if (entry.is_regular_file()) names.push_back(entry.path().filename().string());
   return names;
 }
+
+bool Files::IsDirectory(std::string_view name) const {
+  std::error_code ec;
+  return fs::is_directory(Path(name), ec);
+}
+
+void Files::MakeDirectory(std::string_view name) {
+  if (::mkdir(Path(name).c_str(), 0777) != 0) FailFromErrno(errno);
+}
+
+Files Files::Subdirectory(std::string_view name) const { return Files(Path(name)); }
 
 }  // namespace fisc

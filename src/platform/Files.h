@@ -82,6 +82,13 @@ class Files {
   // Names of the files of a directory below the working one ("" for it).
   std::vector<std::string> List(std::string_view subdirectory = "") const;
 
+  // Directories below the working one, their names compared as file names.
+  bool IsDirectory(std::string_view name) const;
+  // Fails as the platform does: 75 when something stands there already.
+  void MakeDirectory(std::string_view name);
+  // The files of such a directory, served the same way.
+  Files Subdirectory(std::string_view name) const;
+
  private:
   std::filesystem::path directory_;
 };

@@ -144,7 +144,11 @@ std::string PunctZecimal(std::string_view text) {
   return s;
 }
 
-double ValZecimal(std::string_view text) { return Valoare(PunctZecimal(text)); }
+double ValZecimal(std::string_view text) {
+  // Files hold "." already: only a comma typed on a screen needs the copy.
+  if (text.find(',') == std::string_view::npos) return Valoare(text);
+  return Valoare(PunctZecimal(text));
+}
 
 std::string TextZecimal(std::string_view text) { return PunctZecimal(TextDin(ValZecimal(text))); }
 
