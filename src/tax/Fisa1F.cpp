@@ -11,7 +11,7 @@
 #include "sheets/RecordFF1.h"
 #include "sheets/Stocare.h"
 #include "tax/Impozit.h"
-#include "tax/Luni.h"
+#include "records/Luni.h"
 
 namespace fisc {
 

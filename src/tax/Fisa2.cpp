@@ -8,7 +8,7 @@
 #include "sheets/RecordFF2.h"
 #include "sheets/Stocare.h"
 #include "tax/Impozit.h"
-#include "tax/Luni.h"
+#include "records/Luni.h"
 
 namespace fisc {
 
