@@ -11,6 +11,8 @@
 #include "listings/Centralizator.h"
 #include "listings/LisFise1.h"
 #include "listings/LisFise2.h"
+#include "params/CuantumFrm.h"
+#include "params/ImpozitFrm.h"
 #include "platform/Desktop.h"
 #include "platform/InstantaUnica.h"
 #include "platform/Platforma.h"
@@ -51,6 +53,8 @@ class Aplicatie {
   ListabIV listabIV{desktop_, p_, stare_};
   LisFise1 lisFise1{desktop_, p_, stare_};
   LisFise2 lisFise2{desktop_, p_, stare_};
+  ImpozitFrm impozitFrm{desktop_, p_, stare_.Impozitar};
+  CuantumFrm cuantumFrm{desktop_, p_, stare_.Parametri};
 };
 
 }  // namespace fisc

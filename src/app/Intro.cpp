@@ -3,7 +3,6 @@
 #include "app/Discheta.h"
 #include "app/FisaI.h"
 #include "app/Schimb.h"
-#include "sheets/Sortare.h"
 #include "app/Stare.h"
 #include "listings/Borderou.h"
 #include "listings/Centralizator.h"
@@ -11,13 +10,15 @@
 #include "listings/LisFise2.h"
 #include "listings/Randuri.h"
 #include "listings/Tabel5.h"
-#include "params/Cuantum.h"
+#include "params/CuantumFrm.h"
+#include "params/ImpozitFrm.h"
 #include "platform/Desktop.h"
 #include "platform/Layout.h"
 #include "records/CititorCampuri.h"
 #include "records/Date.h"
 #include "records/Judete.h"
 #include "sheets/FisiereSet.h"
+#include "sheets/Sortare.h"
 
 namespace fisc {
 
@@ -117,10 +118,13 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
     GolesteSortare();
     DataCorecta();
   };
-  Command8.Click = [this] { GolesteSortare(); };
+  Command8.Click = [this] {
+    GolesteSortare();
+    Impozitar->Deschide(false);
+  };
   Command10.Click = [this] {
     GolesteSortare();
-    IncarcaCuantum(p_.files, s_.Parametri);
+    Deduceri->Deschide(false);
   };
   Command7.Click = [this] {
     GolesteSortare();

@@ -12,6 +12,8 @@ class LisBord;
 class ListabIV;
 class LisFise1;
 class LisFise2;
+class ImpozitFrm;
+class CuantumFrm;
 
 class Intro : public Form {
  public:
@@ -45,6 +47,8 @@ class Intro : public Form {
   ListabIV* Centralizator = nullptr;
   LisFise1* ListareF1 = nullptr;
   LisFise2* ListareF2 = nullptr;
+  ImpozitFrm* Impozitar = nullptr;
+  CuantumFrm* Deduceri = nullptr;
 
  private:
   // Clears Check1, which deletes the alphabetical copies of the sheets.

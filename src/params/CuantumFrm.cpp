@@ -30,9 +30,11 @@ Control& Camp(Form& f, std::string name, int x, int y, int w) {
 
 // A day of the year's edges: never 0, always two digits.
 std::string Zi(std::string_view text) {
-  std::string zi = TextDin(Valoare(text));
-  if (Valoare(zi) == 0) zi = "1";
-  return Valoare(zi) < 10 ? "0" + zi : zi;
+  double v = Valoare(text);
+  if (v == 0) v = 1;
+  std::string zi = TextDin(v);
+  if (v < 10) zi.insert(0, 1, '0');
+  return zi;
 }
 
 }  // namespace

@@ -19,6 +19,8 @@ namespace fisc {
 
 struct Stare;
 class FisaII;
+class ImpozitFrm;
+class CuantumFrm;
 
 class Fisa1F : public Form {
  public:
@@ -84,6 +86,8 @@ class Fisa1F : public Form {
   Control& Command5;
 
   FisaII* Fisa_II = nullptr;
+  ImpozitFrm* Impozitar = nullptr;
+  CuantumFrm* Deduceri = nullptr;
 
   // Steps of the employee screen's Command1 from the showing of this screen
   // on: the months of activity, the first taxes, and the coefficients of a

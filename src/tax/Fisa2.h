@@ -13,6 +13,7 @@ namespace fisc {
 
 struct Stare;
 class FisaII;
+class ImpozitFrm;
 
 class Fisa2 : public Form {
  public:
@@ -30,6 +31,7 @@ class Fisa2 : public Form {
   Control& Picture1;
 
   FisaII* Fisa_II = nullptr;
+  ImpozitFrm* Impozitar = nullptr;
 
   // The body of an FF2 record from `pozitie`, the position after field 14.
   void IncarcaFF2(std::string_view record, std::size_t pozitie);
