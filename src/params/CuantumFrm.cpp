@@ -60,7 +60,7 @@ CuantumFrm::CuantumFrm(Desktop& desktop, Platforma& platforma, ParametriAn& para
   SetSize(800, kSus + kRand * 13 + 24);
   Label(*this, "EtAnF", "Anul fiscal pentru care se face preluarea :", 20, 14, 300);
   Label(*this, "EtZile", "Prima / ultima  zi lucratoare din an :", 20, 44, 300);
-  Label(*this, "EtCuanta", "Deducere personala", 110, 86, 120);
+  Label(*this, "EtCuanta", "Deducere personala", 110, 86, 140);
   Label(*this, "EtCoef", "Coef.de deducere ", 250, 66, 230);
   Label(*this, "EtCopil", "Copil", 250, 86, 70);
   Label(*this, "EtSotie", "Sotie", 330, 86, 70);
