@@ -137,6 +137,11 @@ TEST_F(EditorCuantum, LeavingAFieldPutsItsValueInOrder) {
   EXPECT_EQ(lasa(f.ultima_zi, "31x"), "31");
   EXPECT_EQ(lasa(f.AnF, ""), "0");
   EXPECT_EQ(lasa(f.hand3, "0,25"), "0.25");
+  d.UserClose(f);
+  std::string text = test::ReadBytes(dir / "Cuantum.txt");
+  EXPECT_EQ(text.substr(0, 10), "0,07,31\r\n ");
+  EXPECT_NE(text.find("\r\n13,1600000,3,1,0.5,0.25,0.15,0.1,\r\n"), std::string::npos);
+  EXPECT_EQ(par.AnFiscal, "0");
 }
 
 TEST_F(EditorCuantum, OpenedForChangeAfterAViewTheFieldsAreOpenAgain) {
