@@ -29,6 +29,7 @@ Aplicatie::Aplicatie(Platforma& platforma)
   fisa1F.Impozitar = &impozitFrm;
   fisa1F.Deduceri = &cuantumFrm;
   fisa2.Impozitar = &impozitFrm;
+  intro.Verif_fis = &verifFis;
 }
 
 bool Aplicatie::Porneste() {

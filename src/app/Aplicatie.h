@@ -20,6 +20,7 @@
 #include "sheets/FrmGasit.h"
 #include "tax/Fisa1F.h"
 #include "tax/Fisa2.h"
+#include "verify/VerifFis.h"
 
 namespace fisc {
 
@@ -55,6 +56,7 @@ class Aplicatie {
   LisFise2 lisFise2{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
   ImpozitFrm impozitFrm{desktop_, p_, stare_.Impozitar};
   CuantumFrm cuantumFrm{desktop_, p_, stare_.Parametri};
+  VerifFis verifFis{desktop_, p_, stare_.Parametri, stare_.Impozitar, stare_.Verificare};
 };
 
 }  // namespace fisc

@@ -17,6 +17,7 @@ class LisFise1;
 class LisFise2;
 class ImpozitFrm;
 class CuantumFrm;
+class VerifFis;
 
 class Intro : public Form {
  public:
@@ -53,6 +54,7 @@ class Intro : public Form {
   LisFise2* ListareF2 = nullptr;
   ImpozitFrm* Impozitar = nullptr;
   CuantumFrm* Deduceri = nullptr;
+  VerifFis* Verif_fis = nullptr;
 
  private:
   // Clears Check1, which deletes the alphabetical copies of the sheets.
