@@ -85,6 +85,16 @@ TEST_F(DesktopTest, TypingStopsAtTheMaximumLength) {
   EXPECT_EQ(s.A.Text(), "12345");
 }
 
+TEST_F(DesktopTest, AFieldDisabledUnderTheFocusTakesNoKeys) {
+  int enters = 0;
+  s.A.KeyPress = [&](int&) { ++enters; };
+  s.A.SetEnabled(false);
+  EXPECT_FALSE(desk.UserType("12"));
+  desk.UserEnter();
+  EXPECT_EQ(s.A.Text(), "");
+  EXPECT_EQ(enters, 0);
+}
+
 TEST_F(DesktopTest, FocusOnAHiddenOrDisabledControlIsFailure5) {
   s.B.SetEnabled(false);
   EXPECT_EQ(test::FailureOf([&] { s.B.SetFocus(); }), err::InvalidCall);

@@ -24,6 +24,11 @@ Aplicatie::Aplicatie(Platforma& platforma)
   intro.Centralizator = &listabIV;
   intro.ListareF1 = &lisFise1;
   intro.ListareF2 = &lisFise2;
+  intro.Impozitar = &impozitFrm;
+  intro.Deduceri = &cuantumFrm;
+  fisa1F.Impozitar = &impozitFrm;
+  fisa1F.Deduceri = &cuantumFrm;
+  fisa2.Impozitar = &impozitFrm;
   intro.Verif_fis = &verifFis;
   intro.Alte_Functii = &alteFunctii;
   alteFunctii.GolesteAngajator = [this] { fisaI.GolesteAngajator(); };

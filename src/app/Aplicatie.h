@@ -11,6 +11,8 @@
 #include "listings/Centralizator.h"
 #include "listings/LisFise1.h"
 #include "listings/LisFise2.h"
+#include "params/CuantumFrm.h"
+#include "params/ImpozitFrm.h"
 #include "platform/Desktop.h"
 #include "platform/InstantaUnica.h"
 #include "platform/Platforma.h"
@@ -53,6 +55,8 @@ class Aplicatie {
   ListabIV listabIV{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
   LisFise1 lisFise1{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
   LisFise2 lisFise2{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
+  ImpozitFrm impozitFrm{desktop_, p_, stare_.Impozitar};
+  CuantumFrm cuantumFrm{desktop_, p_, stare_.Parametri};
   VerifFis verifFis{desktop_, p_, stare_.Parametri, stare_.Impozitar, stare_.Verificare};
   AlteFunctii alteFunctii{desktop_, p_, stare_.Parametri, stare_.Impozitar};
 };

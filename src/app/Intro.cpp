@@ -10,7 +10,8 @@
 #include "listings/LisFise2.h"
 #include "listings/Randuri.h"
 #include "listings/Tabel5.h"
-#include "params/Cuantum.h"
+#include "params/CuantumFrm.h"
+#include "params/ImpozitFrm.h"
 #include "platform/Desktop.h"
 #include "platform/Layout.h"
 #include "records/CititorCampuri.h"
@@ -127,10 +128,13 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, ParametriAn& parametri, int
   };
   b_salv.Click = [this] { Alte_Functii->Salvare(); };
   b_rest.Click = [this] { Alte_Functii->Restaurare(); };
-  Command8.Click = [this] { GolesteSortare(); };
+  Command8.Click = [this] {
+    GolesteSortare();
+    Impozitar->Deschide(false);
+  };
   Command10.Click = [this] {
     GolesteSortare();
-    IncarcaCuantum(p_.files, parametri_);
+    Deduceri->Deschide(false);
   };
   Command7.Click = [this] {
     GolesteSortare();

@@ -15,6 +15,8 @@ class LisBord;
 class ListabIV;
 class LisFise1;
 class LisFise2;
+class ImpozitFrm;
+class CuantumFrm;
 class VerifFis;
 class AlteFunctii;
 
@@ -51,6 +53,8 @@ class Intro : public Form {
   ListabIV* Centralizator = nullptr;
   LisFise1* ListareF1 = nullptr;
   LisFise2* ListareF2 = nullptr;
+  ImpozitFrm* Impozitar = nullptr;
+  CuantumFrm* Deduceri = nullptr;
   VerifFis* Verif_fis = nullptr;
   AlteFunctii* Alte_Functii = nullptr;
 

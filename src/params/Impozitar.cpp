@@ -32,9 +32,52 @@ constexpr const char* kComentariu[] = {
     "*************************************************************",
 };
 
-std::string Celula(const std::optional<double>& cell) { return cell ? TextDin(*cell) : ""; }
+// A row of the table as the platform indexes the array: past row 129 is 9.
+const RandImpozit& Rand(const TabelImpozit& tabel, std::size_t r) {
+  if (r >= tabel.size()) Fail(err::SubscriptOutOfRange);
+  return tabel[r];
+}
+
+double Luna(const RandImpozit& rand) { return rand[0].value_or(0); }
 
 }  // namespace
+
+std::string TextCelula(const std::optional<double>& cell) { return cell ? TextDin(*cell) : ""; }
+
+std::size_t RandulLunii(const TabelImpozit& tabel, double luna) {
+  std::size_t r = 0;
+  while (Luna(Rand(tabel, r)) > luna) ++r;
+  return r;
+}
+
+std::optional<GrupaImpozit> GrupaInVigoare(const TabelImpozit& tabel, double luna) {
+  std::size_t prim = RandulLunii(tabel, luna);
+  double mo = Luna(tabel[prim]);
+  if (mo == 0) return std::nullopt;
+  std::size_t r = prim;
+  while (Luna(Rand(tabel, r)) == mo) ++r;
+  return GrupaImpozit{prim, r - 1};
+}
+
+void InlocuiesteGrupa(TabelImpozit& tabel, double luna, const std::vector<RandImpozit>& grupa) {
+  TabelImpozit nou{};
+  std::size_t r = 0;
+  // The later months' groups stand above; the year's group stands first.
+  if (luna < 13)
+    for (; luna < Luna(Rand(tabel, r)); ++r) nou[r] = tabel[r];
+  std::size_t s = r;
+  for (const RandImpozit& rand : grupa) {
+    if (r >= nou.size()) Fail(err::SubscriptOutOfRange);
+    nou[r++] = rand;
+  }
+  std::size_t t = s;
+  while (Luna(Rand(tabel, t)) == luna) ++t;
+  // The end of the copy is counted from where the group began, not from
+  // where it ends: the tail gives up as many rows as the new group holds.
+  std::size_t sfarsit = static_cast<std::size_t>(MaxRandImpozit) - t + s;
+  for (; r <= sfarsit; ++r, ++t) nou[r] = tabel[t];
+  tabel = nou;
+}
 
 void IncarcaImpozitar(Files& files, TabelImpozit& tabel) {
   for (RandImpozit& rand : tabel) rand.fill(std::nullopt);
@@ -63,8 +106,8 @@ void SalvImpozit(Files& files, const TabelImpozit& tabel) {
     if (!rand[0]) break;
     std::string luna = TextDin(*rand[0]);
     if (luna.size() < 2) luna.insert(0, 2 - luna.size(), ' ');
-    out.Line(luna + "," + Celula(rand[1]) + "," + Celula(rand[2]) + "," + Celula(rand[3]) + "," +
-             Celula(rand[4]));
+    out.Line(luna + "," + TextCelula(rand[1]) + "," + TextCelula(rand[2]) + "," +
+             TextCelula(rand[3]) + "," + TextCelula(rand[4]));
   }
   out.Line("eof");
   for (const char* line : kComentariu) out.Line(line);

@@ -74,8 +74,10 @@ void Desktop::UserClick(Control& control) {
 
 bool Desktop::UserType(std::string_view text) {
   Control* c = focused_;
-  if (!c || (c->Kind() != ControlKind::TextBox &&
-             !(c->Kind() == ControlKind::ComboBox && !c->ListOnly())))
+  // A field disabled under the focus takes no keys.
+  if (!c || !c->CanTakeFocus() ||
+      (c->Kind() != ControlKind::TextBox &&
+       !(c->Kind() == ControlKind::ComboBox && !c->ListOnly())))
     return false;
   if (c->MaxLength() > 0 && text.size() > static_cast<std::size_t>(c->MaxLength()))
     text = text.substr(0, static_cast<std::size_t>(c->MaxLength()));
@@ -86,7 +88,7 @@ bool Desktop::UserType(std::string_view text) {
 void Desktop::UserEnter() {
   Dispatch([&] {
     Control* c = focused_;
-    if (!c) return;
+    if (!c || !c->CanTakeFocus()) return;
     if (c->Kind() == ControlKind::Button) {
       if (c->Click) c->Click();
       return;

@@ -24,6 +24,7 @@ std::string FailureDescription(int number) {
     case err::PathFileAccess: return "Path/File access error";
     case err::PathNotFound: return "Path not found";
     case err::InvalidUseOfNull: return "Invalid use of Null";
+    case err::ControlArrayElement: return "Control array element doesn't exist";
     case err::InvalidPropertyValue: return "Invalid property value";
     case err::InvalidArrayIndex: return "Invalid property array index";
     case err::TextReadOnly: return "'Text' property is read-only";

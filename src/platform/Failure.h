@@ -41,6 +41,7 @@ inline constexpr int DiskNotReady = 71;
 inline constexpr int PathFileAccess = 75;
 inline constexpr int PathNotFound = 76;
 inline constexpr int InvalidUseOfNull = 94;
+inline constexpr int ControlArrayElement = 340;
 inline constexpr int InvalidPropertyValue = 380;
 inline constexpr int InvalidArrayIndex = 381;
 inline constexpr int TextReadOnly = 383;

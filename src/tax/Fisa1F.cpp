@@ -1,17 +1,18 @@
 #include "tax/Fisa1F.h"
 
 #include "listings/Imagine.h"
-#include "params/Cuantum.h"
+#include "params/CuantumFrm.h"
+#include "params/ImpozitFrm.h"
 #include "platform/Failure.h"
 #include "platform/Layout.h"
 #include "records/CititorCampuri.h"
+#include "records/Luni.h"
 #include "records/Numere.h"
 #include "sheets/FisaII.h"
 #include "sheets/FisaInLucru.h"
 #include "sheets/RecordFF1.h"
 #include "sheets/Stocare.h"
 #include "tax/Impozit.h"
-#include "tax/Luni.h"
 
 namespace fisc {
 
@@ -235,10 +236,10 @@ Fisa1F::Fisa1F(Desktop& desktop, Platforma& platforma, ParametriAn& parametri,
 
   // The sheet as it will print, from the screen, before any save.
   Command10.Click = [this] { ImagineFF1(p_, parametri_, fisa_, listare_, FisaDinEcran()); };
-  // The tables come with their editors. The deductions are read afresh
+  // The tables are only looked at from here. The deductions are read afresh
   // before they are viewed, and from then on the sheet works with them.
-  Command14.Click = [] {};
-  Command15.Click = [this] { IncarcaCuantum(p_.files, parametri_); };
+  Command14.Click = [this] { Impozitar->Deschide(true); };
+  Command15.Click = [this] { Deduceri->Deschide(true); };
 
   Command1.Click = [this] { ArataDoar(Fisa1_III); };
   Command2.Click = [this] { Command2_Click(); };

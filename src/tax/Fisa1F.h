@@ -23,6 +23,8 @@ struct ParametriAn;
 struct FisaInLucru;
 struct StareListare;
 class FisaII;
+class ImpozitFrm;
+class CuantumFrm;
 
 class Fisa1F : public Form, public EcranFF1 {
  public:
@@ -89,6 +91,8 @@ class Fisa1F : public Form, public EcranFF1 {
   Control& Command5;
 
   FisaII* Fisa_II = nullptr;
+  ImpozitFrm* Impozitar = nullptr;
+  CuantumFrm* Deduceri = nullptr;
 
   // Steps of the employee screen's Command1 from the showing of this screen
   // on: the months of activity, the first taxes, and the coefficients of a

@@ -3,13 +3,14 @@
 #include "sheets/FisaInLucru.h"
 
 #include "listings/Imagine.h"
+#include "params/ImpozitFrm.h"
 #include "platform/Layout.h"
+#include "records/Luni.h"
 #include "records/Numere.h"
 #include "sheets/FisaII.h"
 #include "sheets/RecordFF2.h"
 #include "sheets/Stocare.h"
 #include "tax/Impozit.h"
-#include "tax/Luni.h"
 
 namespace fisc {
 
@@ -104,8 +105,8 @@ Fisa2::Fisa2(Desktop& desktop, Platforma& platforma, const ParametriAn& parametr
     Inchide();
   };
   Command3.Click = [this] { Warn(p_.dialogs, kTipuri); };
-  // The tax table comes with its editor.
-  Command2.Click = [] {};
+  // The tax table is only looked at from here.
+  Command2.Click = [this] { Impozitar->Deschide(true); };
   Command10.Click = [this] { ImagineFF2(p_, parametri_, listare_, FisaDinEcran()); };
   Picture1.Click = [this] { p_.launcher.Start("calc.exe", ""); };
   Closing = [this](bool&) { Inchide(); };

@@ -17,6 +17,7 @@ struct ParametriAn;
 struct FisaInLucru;
 struct StareListare;
 class FisaII;
+class ImpozitFrm;
 
 class Fisa2 : public Form, public EcranFF2 {
  public:
@@ -35,6 +36,7 @@ class Fisa2 : public Form, public EcranFF2 {
   Control& Picture1;
 
   FisaII* Fisa_II = nullptr;
+  ImpozitFrm* Impozitar = nullptr;
 
   // The body of an FF2 record from `pozitie`, the position after field 14.
   void IncarcaFF2(std::string_view record, std::size_t pozitie) override;

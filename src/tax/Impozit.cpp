@@ -26,10 +26,8 @@ double Number(const std::optional<double>& cell) {
 
 double ImpozitLuna(short& luna, double& suma, const TabelImpozit& tabel) {
   if (suma < 0) suma = 0;
-  std::size_t r = 0;
-  // Groups stand in descending order of month: the first row not later than
-  // `luna` opens the table in force, and its limits descend from there.
-  while (LessThan(luna, Rand(tabel, r)[0])) ++r;
+  // The limits of the table in force descend from its first row.
+  std::size_t r = RandulLunii(tabel, luna);
   while (LessThan(suma, Rand(tabel, r)[1])) ++r;
   const RandImpozit& rand = tabel[r];
   // The last three digits of the base never count.

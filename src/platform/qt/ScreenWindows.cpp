@@ -285,7 +285,8 @@ void ScreenWindows::DrawCaption(Bound& b) {
       bool wrap = lines || metrics.horizontalAdvance(shown) > b.place.width();
       label->setText(lines ? BreakAtPadding(shown, false) : shown);
       label->setWordWrap(wrap);
-      label->setAlignment(Qt::AlignLeft | (wrap ? Qt::AlignTop : Qt::AlignVCenter));
+      Qt::Alignment side = c.AlignRight() ? Qt::AlignRight : Qt::AlignLeft;
+      label->setAlignment(side | (wrap ? Qt::AlignTop : Qt::AlignVCenter));
       QKeySequence key = QKeySequence::mnemonic(caption);
       if (!key.isEmpty() && !b.mnemonic) {
         b.mnemonic = new QShortcut(label->window());

@@ -1,5 +1,5 @@
 #pragma once
-// The months as the sheet screens name their rows.
+// The months as the screens name their rows.
 #include <array>
 #include <string_view>
 
