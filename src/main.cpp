@@ -8,6 +8,7 @@
 #include "platform/qt/FrontEnd.h"
 #include "platform/qt/QtPrinter.h"
 #include "replay/Replay.h"
+#include "replay/VerifyCommand.h"
 
 int main(int argc, char** argv) {
   namespace fs = std::filesystem;
@@ -39,9 +40,7 @@ int main(int argc, char** argv) {
   if (line.mode == Mode::Replay)
     return fisc::RunReplay({line.script, workdir, drive, fisc::MakePdfPrinter}, std::cout,
                            std::cerr);
-  if (line.mode == Mode::Verify) {
-    std::cerr << "fisc: --verify is not part of this build\n";
-    return 2;
-  }
+  if (line.mode == Mode::Verify)
+    return fisc::RunVerify({workdir, drive, line.dbf, line.fromDrive}, std::cout, std::cerr);
   return fisc::RunWindow(argc, argv, {workdir, drive});
 }
