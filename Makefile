@@ -1,13 +1,16 @@
 # The two commands of the README:
 #   make run    installs what is missing, builds, and starts the program on demo/
-#   make test   installs what is missing, builds, and runs every test, then
-#               again in a build with AddressSanitizer and UndefinedBehaviorSanitizer
+#   make test   installs what is missing, builds, and runs every test, makes and
+#               checks the .deb, then runs the tests again in a build with
+#               AddressSanitizer and UndefinedBehaviorSanitizer
+# and one more:
+#   make package  the .deb for a Debian desktop, in $(BUILD)/
 BUILD ?= build
 ASAN_BUILD ?= build-asan
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
 
-.PHONY: all deps build demo run test test-asan bench clean
+.PHONY: all deps build demo run test test-asan package bench clean
 
 all: build
 
@@ -26,7 +29,13 @@ run: demo
 
 test: build
 	cd $(BUILD) && ctest --output-on-failure -j$(JOBS)
+	$(MAKE) package
+	scripts/check-package $(BUILD)
 	$(MAKE) test-asan
+
+package: build
+	rm -f $(BUILD)/fisc_*.deb
+	cmake --build $(BUILD) --target package
 
 test-asan: deps
 	cmake -S . -B $(ASAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DFISC_SANITIZE=ON $(CMAKE_FLAGS)

@@ -1,68 +1,46 @@
-// fisc: the income tax sheets of one fiscal year.
-//   fisc [--workdir DIR] [--drive DIR]                 the window
-//   fisc --replay SCRIPT [--workdir DIR] [--drive DIR]  a script, without a window
-//   fisc --verify [--dbf] [--from-drive] [--workdir DIR] [--drive DIR]
-//                                                      the verification, without a window
-#include <cstring>
+// fisc: the income tax sheets of one fiscal year. `fisc --help` tells the
+// options and where the data of a run live.
 #include <filesystem>
 #include <iostream>
-#include <string>
 
+#include "app/CommandLine.h"
+#include "platform/WorkDir.h"
 #include "platform/qt/FrontEnd.h"
 #include "platform/qt/QtPrinter.h"
 #include "replay/Replay.h"
 #include "replay/VerifyCommand.h"
 
-namespace {
-
-int Usage() {
-  std::cerr << "usage: fisc [--replay SCRIPT | --verify [--dbf] [--from-drive]] [--workdir DIR] "
-               "[--drive DIR]\n";
-  return 2;
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
   namespace fs = std::filesystem;
-  fs::path script, workdir = fs::current_path(), drive;
-  bool replay = false, verify = false, dbf = false, fromDrive = false;
-  for (int i = 1; i < argc; ++i) {
-    std::string arg = argv[i];
-    auto value = [&]() -> const char* { return i + 1 < argc ? argv[++i] : nullptr; };
-    const char* v = nullptr;
-    if (arg == "--replay" && (v = value())) {
-      replay = true;
-      script = v;
-    } else if (arg == "--verify") {
-      verify = true;
-    } else if (arg == "--dbf") {
-      dbf = true;
-    } else if (arg == "--from-drive") {
-      fromDrive = true;
-    } else if (arg == "--workdir" && (v = value())) {
-      workdir = v;
-    } else if (arg == "--drive" && (v = value())) {
-      drive = v;
-    } else if (arg.rfind("--", 0) == 0) {
-      return Usage();
-    }
-    // Anything else belongs to the window toolkit ("-platform offscreen").
+  using Mode = fisc::CommandLine::Mode;
+  const fisc::CommandLine line = fisc::ParseCommandLine(argc, argv);
+  switch (line.mode) {
+    case Mode::Help: std::cout << fisc::Usage(); return 0;
+    case Mode::Version: std::cout << "fisc " FISC_VERSION "\n"; return 0;
+    case Mode::Wrong:
+      std::cerr << "fisc: unknown or incomplete option " << line.wrong << "\n" << fisc::Usage();
+      return 2;
+    default: break;
   }
-  if ((replay && verify) || ((dbf || fromDrive) && !verify)) return Usage();
-  std::error_code ec;
-  if (!fs::is_directory(workdir, ec)) {
-    std::cerr << "fisc: no working directory " << workdir << '\n';
+
+  // Nothing of the run starts before its directory is sure to take files.
+  const auto env = fisc::WorkDirEnvironment::FromProcess();
+  const fisc::WorkDirChoice choice = fisc::ChooseWorkDir(line.workdir, env);
+  if (const fisc::WorkDirProblem problem = fisc::PrepareWorkDir(choice, fisc::DeliveredDir(env))) {
+    if (line.mode == Mode::Window)
+      fisc::ShowStartProblem(argc, argv, fisc::ProblemMessage(problem));
+    else
+      std::cerr << fisc::ProblemLine(problem) << '\n';
     return 2;
   }
-  workdir = fs::absolute(workdir);
+  const fs::path workdir = choice.dir;
   // The fiscal unit's drive: a folder named "a" in the working directory
   // unless another is given.
-  if (drive.empty()) drive = workdir / "a";
-  if (verify)
-    return fisc::RunVerify({workdir, fs::absolute(drive), dbf, fromDrive}, std::cout, std::cerr);
-  if (replay)
-    return fisc::RunReplay({script, workdir, fs::absolute(drive), fisc::MakePdfPrinter}, std::cout,
+  const fs::path drive = line.drive ? fs::absolute(*line.drive) : workdir / "a";
+  if (line.mode == Mode::Replay)
+    return fisc::RunReplay({line.script, workdir, drive, fisc::MakePdfPrinter}, std::cout,
                            std::cerr);
-  return fisc::RunWindow(argc, argv, {workdir, fs::absolute(drive)});
+  if (line.mode == Mode::Verify)
+    return fisc::RunVerify({workdir, drive, line.dbf, line.fromDrive}, std::cout, std::cerr);
+  return fisc::RunWindow(argc, argv, {workdir, drive});
 }

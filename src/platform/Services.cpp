@@ -26,8 +26,8 @@ std::chrono::sys_days Clock::Today() const {
 std::string Clock::ShortDate(std::chrono::sys_days day) const {
   std::chrono::year_month_day ymd(day);
   char text[16];
-  std::snprintf(text, sizeof text, "%02u/%02u/%02d", static_cast<unsigned>(ymd.day()),
-                static_cast<unsigned>(ymd.month()), static_cast<int>(ymd.year()) % 100);
+  std::snprintf(text, sizeof text, "%02u/%02u", static_cast<unsigned>(ymd.day()),
+                static_cast<unsigned>(ymd.month()));
   return text;
 }
 

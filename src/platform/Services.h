@@ -37,7 +37,10 @@ class Clock {
  public:
   virtual ~Clock() = default;
   virtual std::chrono::sys_days Today() const;
-  // The machine's short date text of a day; this platform prints dd/mm/yy.
+  // The machine's short date text of a day: "dd/mm", day first. The year is
+  // left out: in 2028 to 2031 its digits, two or four, would read as a day of
+  // 28 to 31 out of its place, and the regional-setting probe would refuse a
+  // day-first machine for four years.
   virtual std::string ShortDate(std::chrono::sys_days day) const;
   // A pause the behaviour asks for (the diskette's five seconds).
   virtual void Wait(std::chrono::seconds duration);

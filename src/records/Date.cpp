@@ -46,7 +46,11 @@ std::optional<std::chrono::year_month_day> DayOf(int d, int m, int y) {
 
 }  // namespace
 
-int AnulCurent() { return static_cast<int>(std::chrono::year_month_day(Clock().Today()).year()); }
+int AnulCurent(const Clock& clock) {
+  return static_cast<int>(std::chrono::year_month_day(clock.Today()).year());
+}
+
+int AnulCurent() { return AnulCurent(Clock()); }
 
 std::string NormalizeazaData(std::string_view text, int anCurent) {
   std::string_view trimmed = Trim(text);

@@ -11,7 +11,8 @@ namespace fisc {
 class Clock;
 class Dialogs;
 
-// The year of today's date on this machine.
+// The year of today's date by a clock; without one, by the machine's.
+int AnulCurent(const Clock& clock);
 int AnulCurent();
 
 // A date text typed on a screen or taken from a file, put in order: blanks

@@ -488,7 +488,7 @@ AntetFisa FisaII::Antet() const {
 // activity can't come before its start. A refused date is emptied.
 void FisaII::IesireData(Control& camp) {
   const std::string& an = parametri_.AnFiscal;
-  camp.SetText(NormalizeazaData(camp.Text()));
+  camp.SetText(NormalizeazaData(camp.Text(), AnulCurent(p_.clock)));
   const std::string& text = camp.Text();
   std::string mesaj;
   bool eroare = false;
@@ -525,8 +525,9 @@ void FisaII::Command1_Click() {
     return;
   }
   // The dates are put in form again but not tested: leaving them did that.
-  Job0.SetText(NormalizeazaData(Job0.Text()));
-  Job1.SetText(NormalizeazaData(Job1.Text()));
+  const int anCurent = AnulCurent(p_.clock);
+  Job0.SetText(NormalizeazaData(Job0.Text(), anCurent));
+  Job1.SetText(NormalizeazaData(Job1.Text(), anCurent));
   f.CodCurent = CodS.Text();
   f.DataAngajarii = Job0.Text();
   f.DataIncetarii = Job1.Text();

@@ -16,12 +16,12 @@
 
 namespace fisc::test {
 
-// A day whose short date passes the program's check of the regional setting.
+// The machine's clock on a day a test chooses: 15 March 2002 unless moved.
+// The short date is the platform's own text.
 class ZiFixa : public HeadlessClock {
  public:
-  std::chrono::sys_days Today() const override {
-    return std::chrono::sys_days(std::chrono::year(2002) / 3 / 15);
-  }
+  std::chrono::sys_days Today() const override { return zi; }
+  std::chrono::sys_days zi = std::chrono::year(2002) / 3 / 15;
 };
 
 inline constexpr std::string_view kAngajator =

@@ -1,6 +1,7 @@
 #include "platform/qt/FrontEnd.h"
 
 #include <QApplication>
+#include <QMessageBox>
 
 #include "app/Aplicatie.h"
 #include "platform/qt/QtPrinter.h"
@@ -38,6 +39,11 @@ int RunWindow(int argc, char** argv, const WindowOptions& options) {
   windows.OnEnded = [&status] { QApplication::exit(status); };
   windows.Redraw();
   return QApplication::exec();
+}
+
+void ShowStartProblem(int argc, char** argv, const std::string& text) {
+  QApplication qt(argc, argv);
+  QMessageBox::critical(nullptr, QStringLiteral("fisc"), QString::fromLocal8Bit(text));
 }
 
 }  // namespace fisc

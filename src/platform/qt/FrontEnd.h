@@ -2,6 +2,7 @@
 // The window of the program: runs the application with Qt widgets drawn from
 // its screen models.
 #include <filesystem>
+#include <string>
 
 namespace fisc {
 
@@ -11,5 +12,8 @@ struct WindowOptions {
 };
 
 int RunWindow(int argc, char** argv, const WindowOptions& options);
+
+// A problem that keeps the run from starting, in a box of its own.
+void ShowStartProblem(int argc, char** argv, const std::string& text);
 
 }  // namespace fisc
