@@ -1,22 +1,23 @@
 #include "records/Structura.h"
 
-#include <string>
-
 namespace fisc {
 
 bool StructuraRecord(std::string_view record, std::string_view sablon) {
-  // The "?" stands for the end mark added behind the record: the scan stops at
-  // the first one, whether it is that mark or a character of a field.
-  std::string structura;
+  // The structure string is compared with the template as it is made, so
+  // that a record of a few hundred characters costs no copy: while they agree
+  // its last two characters are those of the template.
+  std::size_t n = 0;  // characters of the structure string so far
   for (char c : record) {
+    // The "?" stands for the end mark added behind the record: the scan stops
+    // at the first one, whether it is that mark or a character of a field.
     if (c == '?') break;
     if (c != '#' && c != ',') continue;
     // After ",#" a comma belongs to the text field that was just opened.
-    std::size_t n = structura.size();
-    if (c == ',' && n >= 2 && structura[n - 2] == ',' && structura[n - 1] == '#') continue;
-    structura += c;
+    if (c == ',' && n >= 2 && sablon[n - 2] == ',' && sablon[n - 1] == '#') continue;
+    if (n >= sablon.size() || sablon[n] != c) return false;
+    ++n;
   }
-  return structura == sablon;
+  return n == sablon.size();
 }
 
 }  // namespace fisc

@@ -12,9 +12,8 @@ namespace fisc {
 
 namespace {
 
-// Text fields 2 to 20 end in seventeen "#,": behind the last stands the
-// comma that ends field 20, and the dates follow.
-constexpr int kInchideriCap = 17;
+// Fields 1 to 20 are the head: the dates follow it.
+constexpr int kCampuriCap = 20;
 
 // Fields 75 to 86 of the tail, by their place.
 constexpr std::size_t kLuni = 0, kChAc = 1, kReg10 = 9, kReg11 = 10, kReg12 = 11;
@@ -31,17 +30,16 @@ struct FF1Desfacut {
 FF1Desfacut Desface(std::string_view record) {
   FF1Desfacut d;
   Parcurgere p(record);
-  p.Sari("#,", kInchideriCap);
-  p.Pana(",");
+  p.Sari(kCampuriCap + 1);
   d.cap21 = record.substr(0, p.Pozitie());
-  d.data22 = p.Pana(",");
-  for (double& c : d.coefCalc) c = ValZecimal(p.Pana(","));
-  for (double& c : d.coefProp) c = ValZecimal(p.Pana(","));
+  d.data22 = p.Camp();
+  for (double& c : d.coefCalc) c = ValZecimal(p.Camp());
+  for (double& c : d.coefProp) c = ValZecimal(p.Camp());
   for (std::size_t i = 0; i < d.venitN.size(); ++i) {
-    d.venitN[i] = Valoare(p.Pana(","));
-    d.impC[i] = Valoare(p.Pana(","));
+    d.venitN[i] = Valoare(p.Camp());
+    d.impC[i] = Valoare(p.Camp());
   }
-  for (std::size_t k = 0; k + 1 < d.coada.size(); ++k) d.coada[k] = Valoare(p.Pana(","));
+  for (std::size_t k = 0; k + 1 < d.coada.size(); ++k) d.coada[k] = Valoare(p.Camp());
   d.coada.back() = Valoare(p.Rest());
   return d;
 }
@@ -93,16 +91,15 @@ std::string DataNormala(std::string_view text) {
   return data;
 }
 
-std::string ver_data(std::string_view record) {
+void ver_data(std::string_view record, std::string& linie) {
   Parcurgere p(record);
   std::string_view cod = Inainte(record, ",");
-  p.Sari("#,", kInchideriCap);
+  p.Sari(kCampuriCap);
   std::string_view cap = record.substr(0, p.Pozitie());
-  std::string start = DataNormala(p.Pana(","));
-  std::string sfarsit = DataNormala(p.Pana(","));
+  std::string start = DataNormala(p.Camp());
+  std::string sfarsit = DataNormala(p.Camp());
   std::string_view rest = p.Rest();
-  std::string linie;
-  linie.reserve(2 * record.size() + 8);
+  linie.clear();
   linie += cod;
   linie += ',';
   linie += start;
@@ -115,7 +112,6 @@ std::string ver_data(std::string_view record) {
   linie += sfarsit;
   linie += ',';
   linie += rest;
-  return linie;
 }
 
 std::string umple_buff_ff1(std::string_view record, std::string_view start, std::string_view end) {

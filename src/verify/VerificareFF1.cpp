@@ -3,6 +3,7 @@
 #include <optional>
 #include <tuple>
 
+#include "records/CititorCampuri.h"
 #include "records/CoduriFiscale.h"
 #include "records/Numere.h"
 #include "sheets/FisiereSet.h"
@@ -50,6 +51,35 @@ bool EsteData(std::string_view text) { return CitesteZiLunaAn(text).has_value();
 
 std::string Suma(double valoare) { return TextDin(valoare); }
 
+// What the checks read of a sheet, by the separators of the record: a sheet
+// that passed the structure check reads whole, whatever blanks stand next to
+// its separators. `f` is reused from sheet to sheet, its texts keeping their room.
+void CitesteFisa(std::string_view record, FisaFF1& f) {
+  Parcurgere p(record);
+  f.Antet.CodS = p.Camp();
+  f.Antet.NumeS = p.Camp();
+  p.Sari(11);  // the first name and the address, fields 3 to 13
+  f.FlagRectif = NormalizeazaMarca(p.Camp());
+  f.FlagReg = NormalizeazaMarca(p.Camp());
+  f.FlagDedu = NormalizeazaMarca(p.Camp());
+  f.FlagAlteS = NormalizeazaMarca(p.Camp());
+  f.FlagInv1 = NormalizeazaMarca(p.Camp());
+  f.FlagInv2 = NormalizeazaMarca(p.Camp());
+  p.Sari(1);  // field 20, never used
+  f.DataAngajarii = p.Camp();
+  f.DataIncetarii = p.Camp();
+  for (std::string& coef : f.CoefCalc) coef = p.Camp();
+  for (std::string& coef : f.CoefProp) coef = p.Camp();
+  for (std::size_t i = 0; i < f.VenitN.size(); ++i) {
+    f.VenitN[i] = p.Camp();
+    f.ImpC[i] = p.Camp();
+  }
+  f.Luni = p.Camp();
+  f.ChAc = p.Camp();
+  for (std::size_t k : {2, 3, 4, 5, 6, 8, 9, 10, 11}) f.Reg[k] = p.Camp();
+  f.Reg[12] = p.Rest();
+}
+
 class VerificareFisa {
  public:
   VerificareFisa(ListaErori& lista, const ParametriAn& p, const TabelImpozit& tabel)
@@ -57,7 +87,8 @@ class VerificareFisa {
 
   // ver_inreg_ff1: every line that the record deserves; the record stays as it is.
   void ver_inreg_ff1(std::string_view record) {
-    const FisaFF1 f = CitesteFF1(record);
+    CitesteFisa(record, fisa_);
+    const FisaFF1& f = fisa_;
     cod_ = f.Antet.CodS;
     const int prima = f.DataAngajarii.empty() ? 0 : static_cast<int>(IndexLuna(f.DataAngajarii));
     const int ultima = f.DataIncetarii.empty() ? 11 : static_cast<int>(IndexLuna(f.DataIncetarii));
@@ -204,6 +235,7 @@ class VerificareFisa {
   const ParametriAn& p_;
   const TabelImpozit& tabel_;
   std::string cod_;
+  FisaFF1 fisa_;
 };
 
 }  // namespace
@@ -216,15 +248,15 @@ bool ver_ff1(Files& files, ListaErori& lista, const ParametriAn& p, const TabelI
 
   LineWriter out = files.Write(fisier::Temporar);
   LineReader in = files.Read(fisier::Ff1Sort);
-  std::string cheiePrec, codAngajat, buffer;
+  std::string cheiePrec, cheie, codAngajat, buffer;
   std::string sfarsitPrec = "31/12/" + TextDin(anFiscal - 1);
   bool eroareData = false;
   std::string linie;
   while (in.Next(linie)) {
     Parcurgere taietura(linie);
-    std::string cod(taietura.Pana(","));
-    std::string start(Trim(taietura.Pana(",")));
-    std::string sfarsit(Trim(taietura.Pana(",")));
+    std::string cod(taietura.Camp());
+    std::string start(Trim(taietura.Camp()));
+    std::string sfarsit(Trim(taietura.Camp()));
     std::string_view record = taietura.Rest();
     eroareData = false;
     auto eroare = [&](const std::string& text) {
@@ -255,18 +287,21 @@ bool ver_ff1(Files& files, ListaErori& lista, const ParametriAn& p, const TabelI
     if (eroareData) continue;
 
     if (cheiePrec.empty()) codAngajat = cod;
-    std::string cheie = cod + start;
-    const std::string suprapuse =
-        cod + " are mai multe fise cu intervale suprapuse (se pastraza o singura inregistrare)";
+    cheie.assign(cod).append(start);
+    auto suprapuse = [&] {
+      lista.Eroare(cod +
+                   " are mai multe fise cu intervale suprapuse (se pastraza o singura "
+                   "inregistrare)");
+    };
     if (cheie == cheiePrec) {
-      lista.Eroare(suprapuse);
+      suprapuse();
       continue;
     }
     if (cod == codAngajat) {
       // The program compares whether each text is a date, not the two dates:
       // a sheet of the same employee goes on unless the end before it isn't one.
       if (!EsteData(sfarsitPrec)) {
-        lista.Eroare(suprapuse);
+        suprapuse();
         continue;
       }
       verificare.ver_inreg_ff1(record);
@@ -280,7 +315,7 @@ bool ver_ff1(Files& files, ListaErori& lista, const ParametriAn& p, const TabelI
       buffer = umple_buff_ff1(record, start, sfarsit);
       codAngajat = cod;
     }
-    cheiePrec = std::move(cheie);
+    cheiePrec.swap(cheie);
     sfarsitPrec = sfarsit;
   }
   out.Line(buffer);
