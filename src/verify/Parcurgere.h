@@ -16,8 +16,8 @@ class Parcurgere {
 
   // The next field; the position moves to the start of the one after it.
   std::string_view Camp() {
-    std::size_t at = record_.find_first_of(",#", pozitie_);
-    if (at == std::string_view::npos) return Rest();
+    std::size_t at = Separator(pozitie_);
+    if (at == record_.size()) return Rest();
     if (record_[at] == ',') {
       std::string_view camp = record_.substr(pozitie_, at - pozitie_);
       pozitie_ = at + 1;
@@ -30,11 +30,8 @@ class Parcurgere {
       return record_.substr(at + 1);
     }
     std::string_view camp = record_.substr(at + 1, inchis - at - 1);
-    std::size_t dupa = record_.find_first_of(",#", inchis + 1);
-    if (dupa == std::string_view::npos)
-      pozitie_ = record_.size();
-    else
-      pozitie_ = record_[dupa] == ',' ? dupa + 1 : dupa;
+    std::size_t dupa = Separator(inchis + 1);
+    pozitie_ = dupa < record_.size() && record_[dupa] == ',' ? dupa + 1 : dupa;
     return camp;
   }
   // Steps over `count` fields.
@@ -51,6 +48,13 @@ class Parcurgere {
   std::size_t Pozitie() const { return pozitie_; }
 
  private:
+  // The first "," or "#" from `de` on, the length of the record when none:
+  // fields are a few characters long, a plain loop beats a search.
+  std::size_t Separator(std::size_t de) const {
+    while (de < record_.size() && record_[de] != ',' && record_[de] != '#') ++de;
+    return de;
+  }
+
   std::string_view record_;
   std::size_t pozitie_ = 0;
 };

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
 
 #include "platform/Failure.h"
 #include "records/CititorCampuri.h"
@@ -44,6 +47,25 @@ FF1Desfacut Desface(std::string_view record) {
   return d;
 }
 
+// TextDin of an amount behind `r`: a whole one, as nearly all are, without a
+// text of its own.
+void AdaugaSuma(std::string& r, double valoare) {
+  if (valoare != 0 && std::fabs(valoare) < 1e15 && valoare == std::trunc(valoare)) {
+    char text[24];
+    r.append(text, std::to_chars(text, text + sizeof text, static_cast<std::int64_t>(valoare)).ptr);
+  } else {
+    r += TextDin(valoare);
+  }
+}
+
+// TextZecimal of a coefficient behind `r`.
+void AdaugaCoef(std::string& r, double valoare) {
+  if (valoare == std::trunc(valoare))
+    AdaugaSuma(r, valoare);
+  else
+    r += TextZecimal(valoare);
+}
+
 // The record form of a buffer; `faraRegularizare` leaves fields 77 to 83 empty.
 std::string Compune(std::string_view cap21, std::string_view data22, const FF1Desfacut& d,
                     bool faraRegularizare) {
@@ -52,15 +74,23 @@ std::string Compune(std::string_view cap21, std::string_view data22, const FF1De
   r += cap21;
   r += data22;
   r += ',';
-  for (double c : d.coefCalc) r += TextZecimal(c) + ',';
-  for (double c : d.coefProp) r += TextZecimal(c) + ',';
+  for (double c : d.coefCalc) {
+    AdaugaCoef(r, c);
+    r += ',';
+  }
+  for (double c : d.coefProp) {
+    AdaugaCoef(r, c);
+    r += ',';
+  }
   for (std::size_t i = 0; i < d.venitN.size(); ++i) {
-    r += TextDin(d.venitN[i]) + ',';
-    r += TextDin(d.impC[i]) + ',';
+    AdaugaSuma(r, d.venitN[i]);
+    r += ',';
+    AdaugaSuma(r, d.impC[i]);
+    r += ',';
   }
   for (std::size_t k = 0; k < d.coada.size(); ++k) {
     bool regularizare = k >= 2 && k <= 8;
-    if (!(faraRegularizare && regularizare)) r += TextDin(d.coada[k]);
+    if (!(faraRegularizare && regularizare)) AdaugaSuma(r, d.coada[k]);
     if (k + 1 < d.coada.size()) r += ',';
   }
   return r;
