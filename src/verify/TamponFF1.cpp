@@ -58,12 +58,23 @@ void AdaugaSuma(std::string& r, double valoare) {
   }
 }
 
-// TextZecimal of a coefficient behind `r`.
+// TextZecimal of a coefficient behind `r`. One of one decimal, as 0.5 and
+// 1.5 are, prints as its tenths: fifteen digits round it to just that.
 void AdaugaCoef(std::string& r, double valoare) {
-  if (valoare == std::trunc(valoare))
+  const double zecimi = valoare * 10;
+  if (valoare == std::trunc(valoare)) {
     AdaugaSuma(r, valoare);
-  else
+  } else if (zecimi == std::trunc(zecimi) && std::fabs(zecimi) < 1e13) {
+    auto z = static_cast<std::int64_t>(zecimi);
+    if (z < 0) r += '-';
+    z = z < 0 ? -z : z;
+    char text[24];
+    r.append(text, std::to_chars(text, text + sizeof text, z / 10).ptr);
+    r += '.';
+    r += static_cast<char>('0' + z % 10);
+  } else {
     r += TextZecimal(valoare);
+  }
 }
 
 // The record form of a buffer; `faraRegularizare` leaves fields 77 to 83 empty.
