@@ -51,8 +51,10 @@ class Parcurgere {
   // The first "," or "#" from `de` on, the length of the record when none:
   // fields are a few characters long, a plain loop beats a search.
   std::size_t Separator(std::size_t de) const {
-    while (de < record_.size() && record_[de] != ',' && record_[de] != '#') ++de;
-    return de;
+    const char* p = record_.data() + de;
+    const char* sfarsit = record_.data() + record_.size();
+    while (p < sfarsit && *p != ',' && *p != '#') ++p;
+    return static_cast<std::size_t>(p - record_.data());
   }
 
   std::string_view record_;
