@@ -28,6 +28,12 @@ struct FF1Desfacut {
   std::array<double, 12> coefCalc{}, coefProp{};
   std::array<double, 14> venitN{}, impC{};
   std::array<double, 12> coada{};  // fields 75 to 86
+  // The texts of the numbers as the record holds them, while they still say
+  // what the numbers say: a text already in the written form is copied.
+  std::array<std::string_view, 12> textCalc, textProp;
+  std::array<std::string_view, 14> textVenit, textImp;
+  std::array<std::string_view, 12> textCoada;
+  bool texte = true;
 };
 
 FF1Desfacut Desface(std::string_view record) {
@@ -36,14 +42,15 @@ FF1Desfacut Desface(std::string_view record) {
   p.Sari(kCampuriCap + 1);
   d.cap21 = record.substr(0, p.Pozitie());
   d.data22 = p.Camp();
-  for (double& c : d.coefCalc) c = ValZecimal(p.Camp());
-  for (double& c : d.coefProp) c = ValZecimal(p.Camp());
+  for (std::size_t i = 0; i < 12; ++i) d.coefCalc[i] = ValZecimal(d.textCalc[i] = p.Camp());
+  for (std::size_t i = 0; i < 12; ++i) d.coefProp[i] = ValZecimal(d.textProp[i] = p.Camp());
   for (std::size_t i = 0; i < d.venitN.size(); ++i) {
-    d.venitN[i] = Valoare(p.Camp());
-    d.impC[i] = Valoare(p.Camp());
+    d.venitN[i] = Valoare(d.textVenit[i] = p.Camp());
+    d.impC[i] = Valoare(d.textImp[i] = p.Camp());
   }
-  for (std::size_t k = 0; k + 1 < d.coada.size(); ++k) d.coada[k] = Valoare(p.Camp());
-  d.coada.back() = Valoare(p.Rest());
+  for (std::size_t k = 0; k + 1 < d.coada.size(); ++k)
+    d.coada[k] = Valoare(d.textCoada[k] = p.Camp());
+  d.coada.back() = Valoare(d.textCoada.back() = p.Rest());
   return d;
 }
 
@@ -77,6 +84,15 @@ void AdaugaCoef(std::string& r, double valoare) {
   }
 }
 
+// A number whose text is already what TextDin and TextZecimal would write:
+// digits alone, no more than fifteen, without a leading zero.
+bool FormaScrisa(std::string_view text) {
+  if (text.empty() || text.size() > 15 || (text[0] == '0' && text.size() > 1)) return false;
+  for (char c : text)
+    if (c < '0' || c > '9') return false;
+  return true;
+}
+
 // The record form of a buffer; `faraRegularizare` leaves fields 77 to 83 empty.
 std::string Compune(std::string_view cap21, std::string_view data22, const FF1Desfacut& d,
                     bool faraRegularizare) {
@@ -85,23 +101,35 @@ std::string Compune(std::string_view cap21, std::string_view data22, const FF1De
   r += cap21;
   r += data22;
   r += ',';
-  for (double c : d.coefCalc) {
-    AdaugaCoef(r, c);
+  auto coef = [&](std::string_view text, double valoare) {
+    if (d.texte && FormaScrisa(text))
+      r += text;
+    else
+      AdaugaCoef(r, valoare);
+  };
+  auto suma = [&](std::string_view text, double valoare) {
+    if (d.texte && FormaScrisa(text))
+      r += text;
+    else
+      AdaugaSuma(r, valoare);
+  };
+  for (std::size_t i = 0; i < 12; ++i) {
+    coef(d.textCalc[i], d.coefCalc[i]);
     r += ',';
   }
-  for (double c : d.coefProp) {
-    AdaugaCoef(r, c);
+  for (std::size_t i = 0; i < 12; ++i) {
+    coef(d.textProp[i], d.coefProp[i]);
     r += ',';
   }
   for (std::size_t i = 0; i < d.venitN.size(); ++i) {
-    AdaugaSuma(r, d.venitN[i]);
+    suma(d.textVenit[i], d.venitN[i]);
     r += ',';
-    AdaugaSuma(r, d.impC[i]);
+    suma(d.textImp[i], d.impC[i]);
     r += ',';
   }
   for (std::size_t k = 0; k < d.coada.size(); ++k) {
     bool regularizare = k >= 2 && k <= 8;
-    if (!(faraRegularizare && regularizare)) AdaugaSuma(r, d.coada[k]);
+    if (!(faraRegularizare && regularizare)) suma(d.textCoada[k], d.coada[k]);
     if (k + 1 < d.coada.size()) r += ',';
   }
   return r;
@@ -162,11 +190,15 @@ std::string umple_buff_ff1(std::string_view record, std::string_view start, std:
   for (std::size_t i = 0; i < 12; ++i) {
     if (i < prima || i > ultima) {
       d.coefCalc[i] = d.coefProp[i] = d.venitN[i] = d.impC[i] = 0;
+      d.textCalc[i] = d.textProp[i] = d.textVenit[i] = d.textImp[i] = "0";
     } else if (d.coefCalc[i] > 0) {
       ++luniCuCoef;
     }
   }
-  if (luniCuCoef < d.coada[kLuni]) d.coada[kLuni] = luniCuCoef;
+  if (luniCuCoef < d.coada[kLuni]) {
+    d.coada[kLuni] = luniCuCoef;
+    d.textCoada[kLuni] = {};
+  }
   return Compune(d.cap21, d.data22, d, false);
 }
 
@@ -174,6 +206,7 @@ void aduna_buff_ff1(std::string_view record, std::string& buffer, std::string_vi
                     std::string_view end, std::string_view sfarsitPrec) {
   const std::size_t i1 = IndexLuna(start), i2 = IndexLuna(end), ip = IndexLuna(sfarsitPrec);
   FF1Desfacut b = Desface(buffer);
+  b.texte = false;  // the sums and maxima below are numbers only
   const FF1Desfacut r = Desface(record);
   for (std::size_t i = i1; i <= i2; ++i) {
     // A sheet that starts after the last one ended brings its own coefficients;
