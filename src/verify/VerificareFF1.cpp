@@ -1,5 +1,6 @@
 // Section 3: the dates of every FF1 sheet decide which sheets stay; each that
 // stays is held against what a sheet must be, its regularisation recomputed.
+#include <array>
 #include <optional>
 #include <tuple>
 
@@ -7,7 +8,6 @@
 #include "records/CoduriFiscale.h"
 #include "records/Numere.h"
 #include "sheets/FisiereSet.h"
-#include "sheets/RecordFF1.h"
 #include "tax/Conditii.h"
 #include "tax/Impozit.h"
 #include "tax/Lanturi.h"
@@ -53,8 +53,23 @@ std::string Suma(double valoare) { return TextDin(valoare); }
 
 // What the checks read of a sheet, by the separators of the record: a sheet
 // that passed the structure check reads whole, whatever blanks stand next to
-// its separators. `f` is reused from sheet to sheet, its texts keeping their room.
-void CitesteFisa(std::string_view record, FisaFF1& f) {
+// its separators. The fields are views into the record, which outlives the
+// checks; the marks are trimmed and in upper case, and the coefficients of
+// the total are texts for the tax chain, kept from sheet to sheet.
+struct FisaCitita {
+  struct {
+    std::string_view CodS, NumeS;
+  } Antet;
+  std::string FlagRectif, FlagReg, FlagDedu, FlagAlteS, FlagInv1, FlagInv2;
+  std::string_view DataAngajarii, DataIncetarii;
+  CoeficientiLuni CoefCalc;
+  std::array<std::string_view, 12> CoefProp;
+  std::array<std::string_view, 14> VenitN, ImpC;
+  std::string_view Luni, ChAc;
+  std::array<std::string_view, 13> Reg;
+};
+
+void CitesteFisa(std::string_view record, FisaCitita& f) {
   Parcurgere p(record);
   f.Antet.CodS = p.Camp();
   f.Antet.NumeS = p.Camp();
@@ -69,7 +84,7 @@ void CitesteFisa(std::string_view record, FisaFF1& f) {
   f.DataAngajarii = p.Camp();
   f.DataIncetarii = p.Camp();
   for (std::string& coef : f.CoefCalc) coef = p.Camp();
-  for (std::string& coef : f.CoefProp) coef = p.Camp();
+  for (std::string_view& coef : f.CoefProp) coef = p.Camp();
   for (std::size_t i = 0; i < f.VenitN.size(); ++i) {
     f.VenitN[i] = p.Camp();
     f.ImpC[i] = p.Camp();
@@ -88,13 +103,13 @@ class VerificareFisa {
   // ver_inreg_ff1: every line that the record deserves; the record stays as it is.
   void ver_inreg_ff1(std::string_view record) {
     CitesteFisa(record, fisa_);
-    const FisaFF1& f = fisa_;
+    const FisaCitita& f = fisa_;
     cod_ = f.Antet.CodS;
     const int prima = f.DataAngajarii.empty() ? 0 : static_cast<int>(IndexLuna(f.DataAngajarii));
     const int ultima = f.DataIncetarii.empty() ? 11 : static_cast<int>(IndexLuna(f.DataIncetarii));
 
     bool areCoef2 = false, areCoef15 = false, coefGresit = false;
-    for (const std::string& text : f.CoefProp) {
+    for (std::string_view text : f.CoefProp) {
       double c = ValZecimal(text);
       if (c == 2) areCoef2 = true;
       if (c == 1.5) areCoef15 = true;
@@ -132,7 +147,7 @@ class VerificareFisa {
              Suma(sumaImpozit) + "(cel corect)");
 
     double luni = Valoare(f.Luni);
-    const bool cuDoiStele = f.Antet.NumeS.find("**") != std::string::npos;
+    const bool cuDoiStele = f.Antet.NumeS.find("**") != std::string_view::npos;
     if (f.FlagDedu.empty() && !PersoanaStraina(cod_)) {
       if (luni < 0) {
         Eroare(" Nr.de luni pentru acord.chelt.prof.negativ.");
@@ -156,7 +171,7 @@ class VerificareFisa {
  private:
   // The marks of the regularisation against its data, and the items of a
   // sheet that claims one recomputed by the chain of the FF1 screen.
-  void Regularizarea(const FisaFF1& f, double luni, double sumaVenit, double impCTotal) {
+  void Regularizarea(const FisaCitita& f, double luni, double sumaVenit, double impCTotal) {
     SituatieAngajat s{f.DataAngajarii, f.DataIncetarii, f.Antet.NumeS,
                       f.FlagAlteS,     f.FlagDedu,      cod_};
     const bool conditii = !ConditiiNeindeplinite(s, f.CoefCalc, p_);
@@ -235,7 +250,7 @@ class VerificareFisa {
   const ParametriAn& p_;
   const TabelImpozit& tabel_;
   std::string cod_;
-  FisaFF1 fisa_;
+  FisaCitita fisa_;
 };
 
 }  // namespace
