@@ -1,6 +1,6 @@
 // Files from another program may be wrong in any way. Whatever they hold, the
-// pass ends with its list or with a run-time failure the program names, and
-// never in a crash: the lines of the case folders, mutated at random.
+// pass ends with its list, or stops on the one failure it is meant to stop
+// on, and never in a crash: the lines of the case folders, mutated at random.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -49,6 +49,14 @@ std::vector<std::vector<std::string>> LiniiCazuri() {
   return linii;
 }
 
+// The employer record left by the record pass has a code of eleven digits.
+bool CodUnsprezeceCifre(const fs::path& repfisc) {
+  std::vector<std::string> linii = LiniiDin(test::ReadBytes(repfisc));
+  if (linii.empty()) return false;
+  std::string cod = linii.front().substr(0, linii.front().find(','));
+  return cod.size() == 11 && cod.find_first_not_of("0123456789") == std::string::npos;
+}
+
 class Mutator {
  public:
   explicit Mutator(unsigned seed) : rng_(seed) {}
@@ -71,7 +79,7 @@ class Mutator {
         "0",        "1/1/2",      "ab",        "29/02/2002", "31/12/2001"};
     static const std::vector<std::string> kNumere = {
         "", "-5", "1e308", "1.5", "99999999999999999999", "abc", "0.1", "-1e300", "3", ".", "2,5"};
-    switch (Sub(9)) {
+    switch (Sub(11)) {
       case 0:
         if (!linie.empty()) linie[Sub(linie.size())] = Octet();
         break;
@@ -83,6 +91,15 @@ class Mutator {
       case 4: {  // a separator of another kind
         std::size_t at = linie.find_first_of(",#", Sub(linie.size() + 1));
         if (at != std::string::npos) linie[at] = linie[at] == ',' ? '#' : ',';
+        break;
+      }
+      case 6:
+      case 7: {  // blanks next to separators, which the structure doesn't see
+        for (std::size_t k = 1 + Sub(4); k > 0; --k) {
+          std::size_t at = linie.find_first_of(",#", Sub(linie.size() + 1));
+          if (at == std::string::npos) break;
+          linie.insert(at + Sub(2), std::string(1 + Sub(2), ' '));
+        }
         break;
       }
       case 5: {  // a date field, behind the seventeenth "#,"
@@ -165,7 +182,7 @@ class DirectorInMemorie {
   fs::path path_;
 };
 
-TEST(VerificareMutatii, AnyFileEndsInTheListOrAFailureNeverACrash) {
+TEST(VerificareMutatii, AnyFileEndsInTheListOrTheFailureOfAnElevenDigitCode) {
   const auto material = LiniiCazuri();
   ASSERT_FALSE(material[1].empty());
   DirectorInMemorie dir;
@@ -189,7 +206,11 @@ TEST(VerificareMutatii, AnyFileEndsInTheListOrAFailureNeverACrash) {
       ++liste;
       EXPECT_TRUE(fs::exists(dir / "erori.txt"));
       EXPECT_EQ(r.ExistaErori, fs::exists(dir / r.NumeCopie)) << "round " << runda;
-    } catch (const RuntimeFailure&) {
+    } catch (const RuntimeFailure& f) {
+      // The one failure of a record that passed the structure check: the
+      // employer code of eleven digits that reaches the CF check.
+      EXPECT_EQ(f.number(), err::InvalidCall) << "round " << runda;
+      EXPECT_TRUE(CodUnsprezeceCifre(dir / "Repfisc.txt")) << "round " << runda;
     }
   }
   // Most rounds reach the end of the list: the failures are the exception.

@@ -13,5 +13,7 @@ bool LessNoCase(std::string_view a, std::string_view b);
 
 // Sorts `items` in place in the order of LessNoCase, stably.
 void SortNoCase(std::vector<std::string>& items);
+// The same for texts kept elsewhere, a whole file in one buffer, say.
+void SortNoCase(std::vector<std::string_view>& items);
 
 }  // namespace fisc

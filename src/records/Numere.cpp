@@ -42,25 +42,53 @@ double Exact(std::string_view number) {
 }  // namespace
 
 double Valoare(std::string_view text) {
-  // Most fields are a plain number with nothing around it: read in place.
+  // Digits alone, as most amounts are, of no more places than a double holds.
+  if (!text.empty() && text.size() <= 15) {
+    std::int64_t intreg = 0;
+    std::size_t k = 0;
+    for (; k < text.size(); ++k) {
+      auto cifra = static_cast<unsigned>(text[k] - '0');
+      if (cifra > 9) break;
+      intreg = intreg * 10 + cifra;
+    }
+    if (k == text.size()) return static_cast<double>(intreg);
+  }
+  // Most fields are a plain number with nothing around it: read in place, in
+  // one pass, as Exact would read them; what Exact refuses goes the long way.
   {
+    static constexpr double kPutere[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                         1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
     std::size_t j = 0;
-    if (j < text.size() && (text[j] == '-' || text[j] == '+')) ++j;
-    bool digits = false, point = false;
+    bool minus = false;
+    if (j < text.size() && (text[j] == '-' || text[j] == '+')) minus = text[j++] == '-';
+    bool digits = false, point = false, exact = true;
+    std::int64_t mantisa = 0;
+    int cifre = 0, zecimale = 0;
     for (; j < text.size(); ++j) {
-      if (IsDigit(text[j]))
+      char c = text[j];
+      if (IsDigit(c)) {
         digits = true;
-      else if (text[j] == '.' && !point)
+        if (cifre < 15) {
+          mantisa = mantisa * 10 + (c - '0');
+          if (mantisa != 0) ++cifre;
+          if (point && ++zecimale > 15) exact = false;
+        } else {
+          exact = false;
+        }
+      } else if (c == '.' && !point) {
         point = true;
-      else
+      } else {
         break;
+      }
     }
     bool simplu = j == text.size() || !(IsBlank(text[j]) || text[j] == 'e' || text[j] == 'E' ||
                                         text[j] == 'd' || text[j] == 'D');
     if (simplu && !(text.size() > 0 && IsBlank(text[0]))) {
       if (!digits) return 0;
-      double value = Exact(text.substr(0, j));
-      if (!std::isnan(value)) return value == 0 ? 0.0 : value;
+      if (exact) {
+        double value = static_cast<double>(mantisa) / kPutere[zecimale];
+        return value == 0 ? 0.0 : (minus ? -value : value);
+      }
     }
   }
   // Gather the numeric prefix with the blanks taken out, then convert it.

@@ -24,22 +24,20 @@ struct AngajatFF1 {
 AngajatFF1 inreg_ff1(std::string_view record) {
   AngajatFF1 a;
   Parcurgere p(record);
-  a.CodFF1 = p.Pana(",#");
-  a.NumeFF1 = p.Pana("#,#");
-  a.PrenumeFF1 = p.Pana("#,#");
-  p.Sari("#,", 15);
-  p.Sari(",", 2);
-  for (double& c : a.CoefCalc) c = ValZecimal(p.Pana(","));
-  for (double& c : a.CoefProp) c = ValZecimal(p.Pana(","));
+  a.CodFF1 = p.Camp();
+  a.NumeFF1 = p.Camp();
+  a.PrenumeFF1 = p.Camp();
+  p.Sari(19);  // the address, the marks and the dates, fields 4 to 22
+  for (double& c : a.CoefCalc) c = ValZecimal(p.Camp());
+  for (double& c : a.CoefProp) c = ValZecimal(p.Camp());
   return a;
 }
 
 // inreg_ded: adds a dependant's coefficients to the employee's.
 void inreg_ded(std::string_view record, Luni12& coefSuplim) {
   Parcurgere p(record);
-  p.Pana(",");
-  p.Sari("#,", 8);
-  for (std::size_t i = 0; i < 11; ++i) coefSuplim[i] += ValZecimal(p.Pana(","));
+  p.Sari(10);  // the codes, the names and the marks
+  for (std::size_t i = 0; i < 11; ++i) coefSuplim[i] += ValZecimal(p.Camp());
   coefSuplim[11] += ValZecimal(p.Rest());
 }
 

@@ -17,9 +17,9 @@ std::string DataNormala(std::string_view data);
 // gives 2. A date the checks let through has one; else failure 9.
 std::size_t IndexLuna(std::string_view data);
 
-// The sort line of a record: code, start, end, then the record with its two
-// dates in the normal form, all joined by commas.
-std::string ver_data(std::string_view record);
+// The sort line of a record into `linie`: code, start, end, then the record
+// with its two dates in the normal form, all joined by commas.
+void ver_data(std::string_view record, std::string& linie);
 
 // The buffer of a first sheet: the months outside start..end emptied to 0,
 // Luni no more than the months with a coefficient.

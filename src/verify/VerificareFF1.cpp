@@ -1,12 +1,13 @@
 // Section 3: the dates of every FF1 sheet decide which sheets stay; each that
 // stays is held against what a sheet must be, its regularisation recomputed.
+#include <array>
 #include <optional>
 #include <tuple>
 
+#include "records/CititorCampuri.h"
 #include "records/CoduriFiscale.h"
 #include "records/Numere.h"
 #include "sheets/FisiereSet.h"
-#include "sheets/RecordFF1.h"
 #include "tax/Conditii.h"
 #include "tax/Impozit.h"
 #include "tax/Lanturi.h"
@@ -50,6 +51,50 @@ bool EsteData(std::string_view text) { return CitesteZiLunaAn(text).has_value();
 
 std::string Suma(double valoare) { return TextDin(valoare); }
 
+// What the checks read of a sheet, by the separators of the record: a sheet
+// that passed the structure check reads whole, whatever blanks stand next to
+// its separators. The fields are views into the record, which outlives the
+// checks; the marks are trimmed and in upper case, and the coefficients of
+// the total are texts for the tax chain, kept from sheet to sheet.
+struct FisaCitita {
+  struct {
+    std::string_view CodS, NumeS;
+  } Antet;
+  std::string FlagRectif, FlagReg, FlagDedu, FlagAlteS, FlagInv1, FlagInv2;
+  std::string_view DataAngajarii, DataIncetarii;
+  CoeficientiLuni CoefCalc;
+  std::array<std::string_view, 12> CoefProp;
+  std::array<std::string_view, 14> VenitN, ImpC;
+  std::string_view Luni, ChAc;
+  std::array<std::string_view, 13> Reg;
+};
+
+void CitesteFisa(std::string_view record, FisaCitita& f) {
+  Parcurgere p(record);
+  f.Antet.CodS = p.Camp();
+  f.Antet.NumeS = p.Camp();
+  p.Sari(11);  // the first name and the address, fields 3 to 13
+  f.FlagRectif = NormalizeazaMarca(p.Camp());
+  f.FlagReg = NormalizeazaMarca(p.Camp());
+  f.FlagDedu = NormalizeazaMarca(p.Camp());
+  f.FlagAlteS = NormalizeazaMarca(p.Camp());
+  f.FlagInv1 = NormalizeazaMarca(p.Camp());
+  f.FlagInv2 = NormalizeazaMarca(p.Camp());
+  p.Sari(1);  // field 20, never used
+  f.DataAngajarii = p.Camp();
+  f.DataIncetarii = p.Camp();
+  for (std::string& coef : f.CoefCalc) coef = p.Camp();
+  for (std::string_view& coef : f.CoefProp) coef = p.Camp();
+  for (std::size_t i = 0; i < f.VenitN.size(); ++i) {
+    f.VenitN[i] = p.Camp();
+    f.ImpC[i] = p.Camp();
+  }
+  f.Luni = p.Camp();
+  f.ChAc = p.Camp();
+  for (std::size_t k : {2, 3, 4, 5, 6, 8, 9, 10, 11}) f.Reg[k] = p.Camp();
+  f.Reg[12] = p.Rest();
+}
+
 class VerificareFisa {
  public:
   VerificareFisa(ListaErori& lista, const ParametriAn& p, const TabelImpozit& tabel)
@@ -57,13 +102,14 @@ class VerificareFisa {
 
   // ver_inreg_ff1: every line that the record deserves; the record stays as it is.
   void ver_inreg_ff1(std::string_view record) {
-    const FisaFF1 f = CitesteFF1(record);
+    CitesteFisa(record, fisa_);
+    const FisaCitita& f = fisa_;
     cod_ = f.Antet.CodS;
     const int prima = f.DataAngajarii.empty() ? 0 : static_cast<int>(IndexLuna(f.DataAngajarii));
     const int ultima = f.DataIncetarii.empty() ? 11 : static_cast<int>(IndexLuna(f.DataIncetarii));
 
     bool areCoef2 = false, areCoef15 = false, coefGresit = false;
-    for (const std::string& text : f.CoefProp) {
+    for (std::string_view text : f.CoefProp) {
       double c = ValZecimal(text);
       if (c == 2) areCoef2 = true;
       if (c == 1.5) areCoef15 = true;
@@ -101,7 +147,7 @@ class VerificareFisa {
              Suma(sumaImpozit) + "(cel corect)");
 
     double luni = Valoare(f.Luni);
-    const bool cuDoiStele = f.Antet.NumeS.find("**") != std::string::npos;
+    const bool cuDoiStele = f.Antet.NumeS.find("**") != std::string_view::npos;
     if (f.FlagDedu.empty() && !PersoanaStraina(cod_)) {
       if (luni < 0) {
         Eroare(" Nr.de luni pentru acord.chelt.prof.negativ.");
@@ -125,7 +171,7 @@ class VerificareFisa {
  private:
   // The marks of the regularisation against its data, and the items of a
   // sheet that claims one recomputed by the chain of the FF1 screen.
-  void Regularizarea(const FisaFF1& f, double luni, double sumaVenit, double impCTotal) {
+  void Regularizarea(const FisaCitita& f, double luni, double sumaVenit, double impCTotal) {
     SituatieAngajat s{f.DataAngajarii, f.DataIncetarii, f.Antet.NumeS,
                       f.FlagAlteS,     f.FlagDedu,      cod_};
     const bool conditii = !ConditiiNeindeplinite(s, f.CoefCalc, p_);
@@ -204,6 +250,7 @@ class VerificareFisa {
   const ParametriAn& p_;
   const TabelImpozit& tabel_;
   std::string cod_;
+  FisaCitita fisa_;
 };
 
 }  // namespace
@@ -216,15 +263,15 @@ bool ver_ff1(Files& files, ListaErori& lista, const ParametriAn& p, const TabelI
 
   LineWriter out = files.Write(fisier::Temporar);
   LineReader in = files.Read(fisier::Ff1Sort);
-  std::string cheiePrec, codAngajat, buffer;
+  std::string cheiePrec, cheie, codAngajat, buffer;
   std::string sfarsitPrec = "31/12/" + TextDin(anFiscal - 1);
   bool eroareData = false;
   std::string linie;
   while (in.Next(linie)) {
     Parcurgere taietura(linie);
-    std::string cod(taietura.Pana(","));
-    std::string start(Trim(taietura.Pana(",")));
-    std::string sfarsit(Trim(taietura.Pana(",")));
+    std::string cod(taietura.Camp());
+    std::string start(Trim(taietura.Camp()));
+    std::string sfarsit(Trim(taietura.Camp()));
     std::string_view record = taietura.Rest();
     eroareData = false;
     auto eroare = [&](const std::string& text) {
@@ -255,18 +302,21 @@ bool ver_ff1(Files& files, ListaErori& lista, const ParametriAn& p, const TabelI
     if (eroareData) continue;
 
     if (cheiePrec.empty()) codAngajat = cod;
-    std::string cheie = cod + start;
-    const std::string suprapuse =
-        cod + " are mai multe fise cu intervale suprapuse (se pastraza o singura inregistrare)";
+    cheie.assign(cod).append(start);
+    auto suprapuse = [&] {
+      lista.Eroare(cod +
+                   " are mai multe fise cu intervale suprapuse (se pastraza o singura "
+                   "inregistrare)");
+    };
     if (cheie == cheiePrec) {
-      lista.Eroare(suprapuse);
+      suprapuse();
       continue;
     }
     if (cod == codAngajat) {
       // The program compares whether each text is a date, not the two dates:
       // a sheet of the same employee goes on unless the end before it isn't one.
       if (!EsteData(sfarsitPrec)) {
-        lista.Eroare(suprapuse);
+        suprapuse();
         continue;
       }
       verificare.ver_inreg_ff1(record);
@@ -280,7 +330,7 @@ bool ver_ff1(Files& files, ListaErori& lista, const ParametriAn& p, const TabelI
       buffer = umple_buff_ff1(record, start, sfarsit);
       codAngajat = cod;
     }
-    cheiePrec = std::move(cheie);
+    cheiePrec.swap(cheie);
     sfarsitPrec = sfarsit;
   }
   out.Line(buffer);

@@ -15,14 +15,14 @@ void ver_ff2(Files& files, ListaErori& lista) {
   while (in.Next(linie)) {
     std::string cod(Inainte(linie, ","));
     Parcurgere p(linie);
-    // Text fields 2 to 22 end in nineteen "#,": field 23 follows.
-    p.Sari("#,", 19);
+    // Fields 1 to 22 are the head: the months follow.
+    p.Sari(22);
     double sumaVenit = 0, sumaImpozit = 0;
     for (int i = 0; i < 12; ++i) {
-      sumaVenit += Valoare(p.Pana(","));
-      sumaImpozit += Valoare(p.Pana(","));
+      sumaVenit += Valoare(p.Camp());
+      sumaImpozit += Valoare(p.Camp());
     }
-    std::string venitTotal(p.Pana(","));
+    std::string venitTotal(p.Camp());
     std::string impozitTotal(p.Rest());
     if (!VerificaCNP(cod)) lista.Eroare("CNP " + cod + " eronat.");
     if (Valoare(venitTotal) != sumaVenit)
