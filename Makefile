@@ -4,10 +4,15 @@
 #               again in a build with AddressSanitizer and UndefinedBehaviorSanitizer
 BUILD ?= build
 ASAN_BUILD ?= build-asan
+FUZZ_BUILD ?= build-fuzz
+# Seconds each fuzz target runs: `make fuzz` for a search, the test target
+# for a smoke run.
+FUZZ_SECONDS ?= 60
+FUZZ_SMOKE_SECONDS ?= 3
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
 
-.PHONY: all deps build demo run test test-asan bench clean
+.PHONY: all deps build demo run test test-asan fuzz-build fuzz test-fuzz bench kill-test clean
 
 all: build
 
@@ -36,9 +41,28 @@ test-asan: deps
 	  LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp:print_suppressions=0 \
 	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 \
 	  ctest --output-on-failure -j$(JOBS)
+	$(MAKE) test-fuzz
+
+fuzz-build: deps
+	cmake -S . -B $(FUZZ_BUILD) -DFISC_FUZZ=ON -DCMAKE_CXX_COMPILER=clang++ \
+	  -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+	cmake --build $(FUZZ_BUILD) -j$(JOBS)
+
+# Each target searches for FUZZ_SECONDS from its seeds; what it finds is
+# written to $(FUZZ_BUILD)/findings/<target>/.
+fuzz: fuzz-build
+	tests/fuzz/run $(FUZZ_BUILD) $(FUZZ_SECONDS)
+
+# The fixed findings replayed, then a short search by every target.
+test-fuzz: fuzz-build
+	tests/fuzz/run $(FUZZ_BUILD) $(FUZZ_SMOKE_SECONDS)
 
 bench: build
 	$(BUILD)/bin/fisc_bench
 
+# Kills the program at random moments of a save and checks the files after.
+kill-test: build
+	bench/kill-test $(BUILD)/bin/fisc
+
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD)
+	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)

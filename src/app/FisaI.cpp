@@ -1,6 +1,5 @@
 #include "app/FisaI.h"
 
-#include "sheets/RecordAngajator.h"
 #include "app/Stare.h"
 #include "platform/Layout.h"
 #include "records/CititorCampuri.h"
@@ -10,6 +9,7 @@
 #include "sheets/Adresa.h"
 #include "sheets/FisaII.h"
 #include "sheets/FisiereSet.h"
+#include "sheets/RecordAngajator.h"
 
 namespace fisc {
 
@@ -176,7 +176,8 @@ FisaI::FisaI(Desktop& desktop, Platforma& platforma, Stare& stare)
 
   Closing = [this](bool&) {
     std::string rep = NumeAnual(Familie::Rep, s_.Parametri.AnFiscal);
-    p_.files.DeleteIfExists(rep);
+    // The copy replaces the per-year file in one rename: deleting it first
+    // would lose it to a failure in between.
     p_.files.Copy(fisier::Repfisc, rep);
     if (Intro) Intro->Show();
   };
