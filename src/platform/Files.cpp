@@ -77,7 +77,7 @@ void SyncDirectory(const fs::path& directory) {
 LineReader::LineReader(const fs::path& path) {
   file_ = std::fopen(path.c_str(), "rb");
   if (!file_) FailFromErrno(errno);
-  buffer_ = std::make_unique<char[]>(kBufferSize);
+  buffer_ = std::make_unique_for_overwrite<char[]>(kBufferSize);
 }
 
 LineReader::LineReader(LineReader&& other) noexcept { *this = std::move(other); }
@@ -149,7 +149,7 @@ LineWriter::LineWriter(const fs::path& path, bool append, FaultPlan* faults) : f
   Consult(FileOp::Create);
   file_ = std::fopen(path.c_str(), append ? "ab" : "wb");
   if (!file_) FailFromErrno(errno);
-  buffer_ = std::make_unique<char[]>(kBufferSize);
+  buffer_ = std::make_unique_for_overwrite<char[]>(kBufferSize);
   std::setvbuf(file_, buffer_.get(), _IOFBF, kBufferSize);
 }
 
@@ -260,7 +260,7 @@ void CopyFileAtomic(const fs::path& from, const fs::path& to, FaultPlan* faults)
     std::fclose(in);
     FailFromErrno(error);
   }
-  auto buffer = std::make_unique<char[]>(kBufferSize);
+  auto buffer = std::make_unique_for_overwrite<char[]>(kBufferSize);
   std::size_t n;
   while ((n = std::fread(buffer.get(), 1, kBufferSize, in)) > 0) {
     int injected = faults ? faults->Before(FileOp::Write, work) : 0;

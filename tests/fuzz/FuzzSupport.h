@@ -12,15 +12,24 @@
 
 namespace fisc::fuzz {
 
-// One directory per process, made at the first call, left for the system's
-// temporary folder to clean.
+// One directory per process, made at the first call and removed at the exit;
+// in memory when the system has a folder for it, since every rewrite syncs.
 inline const std::filesystem::path& Director() {
-  static const std::filesystem::path dir = [] {
-    auto d = std::filesystem::temp_directory_path() / ("fisc-fuzz-" + std::to_string(::getpid()));
-    std::filesystem::create_directories(d);
-    return d;
-  }();
-  return dir;
+  static const struct Dir {
+    std::filesystem::path path;
+    Dir() {
+      std::error_code ec;
+      std::filesystem::path root = "/dev/shm";
+      if (!std::filesystem::is_directory(root, ec)) root = std::filesystem::temp_directory_path();
+      path = root / ("fisc-fuzz-" + std::to_string(::getpid()));
+      std::filesystem::create_directories(path);
+    }
+    ~Dir() {
+      std::error_code ec;
+      std::filesystem::remove_all(path, ec);
+    }
+  } dir;
+  return dir.path;
 }
 
 inline void ScrieFisier(std::string_view nume, std::string_view bytes) {
