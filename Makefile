@@ -1,7 +1,8 @@
 # The two commands of the README:
 #   make run    installs what is missing, builds, and starts the program on demo/
 #   make test   installs what is missing, builds, and runs every test, then
-#               again in a build with AddressSanitizer and UndefinedBehaviorSanitizer
+#               again in a build with AddressSanitizer and UndefinedBehaviorSanitizer,
+#               then each fuzz target on its fixed findings and for a few seconds
 BUILD ?= build
 ASAN_BUILD ?= build-asan
 FUZZ_BUILD ?= build-fuzz
@@ -32,6 +33,7 @@ run: demo
 test: build
 	cd $(BUILD) && ctest --output-on-failure -j$(JOBS)
 	$(MAKE) test-asan
+	$(MAKE) test-fuzz
 
 test-asan: deps
 	cmake -S . -B $(ASAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DFISC_SANITIZE=ON $(CMAKE_FLAGS)
@@ -41,7 +43,6 @@ test-asan: deps
 	  LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp:print_suppressions=0 \
 	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 \
 	  ctest --output-on-failure -j$(JOBS)
-	$(MAKE) test-fuzz
 
 fuzz-build: deps
 	cmake -S . -B $(FUZZ_BUILD) -DFISC_FUZZ=ON -DCMAKE_CXX_COMPILER=clang++ \

@@ -1,7 +1,6 @@
 // The program in its windows: real widgets driven by keys and clicks, on a
 // working directory of its own.
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -120,27 +119,6 @@ TEST_F(SavedEmployerTest, TypingReplacesTheLoadedCode) {
   EXPECT_EQ(code->selectedText(), "12345674");
   Type("5");
   EXPECT_EQ(app_.fisaI.CodP.Text(), "5");
-}
-
-TEST_F(WindowTest, TheSpaceBarOnTheCorrectionMarkMovesToTheCodeWithoutMarking) {
-  FisaII& f = app_.fisaII;
-  Click(W(app_.intro.Command1));
-  Settle();
-  Click(W(app_.fisaI.Ok_Fisa_II));
-  Settle();
-  ASSERT_EQ(app_.Ecran().Focused(), &f.Option1);
-  Press(Qt::Key_Return);
-  Settle();
-  ASSERT_EQ(QApplication::focusWidget(), W(f.Xrectif));
-  test::Key(QApplication::focusWidget(), Qt::Key_Space, " ");
-  Settle();
-  EXPECT_EQ(app_.Ecran().Focused(), &f.CodS);
-  EXPECT_EQ(QApplication::focusWidget(), W(f.CodS));
-  EXPECT_EQ(f.Xrectif.Value(), 0);
-  EXPECT_FALSE(static_cast<QCheckBox*>(W(f.Xrectif))->isChecked());
-  // In a text box the letters still land in the field.
-  Type("17");
-  EXPECT_EQ(f.CodS.Text(), "17");
 }
 
 TEST_F(WindowTest, TabFollowsTheModelsOrderAndItsHandlers) {
