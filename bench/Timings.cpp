@@ -7,19 +7,20 @@
 #include "Generator.h"
 #include "app/Aplicatie.h"
 #include "app/Schimb.h"
-#include "sheets/Sortare.h"
-#include "app/Stare.h"
 #include "listings/Borderou.h"
 #include "listings/Cadru.h"
 #include "listings/LisFise1.h"
 #include "listings/ListaFF1.h"
 #include "listings/ListaFF2.h"
+#include "params/Cuantum.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
 #include "platform/headless/HeadlessPrinter.h"
 #include "platform/headless/HeadlessServices.h"
+#include "sheets/FisaInLucru.h"
 #include "sheets/RecordDed.h"
+#include "sheets/Sortare.h"
 #include "sheets/Stocare.h"
 
 namespace fs = std::filesystem;
@@ -190,17 +191,24 @@ void BM_Sortare_Copie(benchmark::State& state) {
 // as LisFise1 writes it; the floor writes a file of the same size.
 template <typename Lista>
 std::uintmax_t Listeaza(Files& files, std::string_view sursa, std::string_view listare) {
-  Stare s;
-  s.Parametri.AnFiscal = "2002";
-  s.Parametri.DedLuna[12] = 1600000;
-  s.Listare.Exemplar = "angajat";
+  ParametriAn parametri;
+  parametri.AnFiscal = "2002";
+  parametri.DedLuna[12] = 1600000;
+  FisaInLucru fisa;
+  StareListare stare;
+  stare.Exemplar = "angajat";
   LineReader in = files.Read(sursa);
   files.DeleteIfExists(listare);
   LineWriter out = files.Write(listare);
-  Lista lista(files, out, s, "POPESCU ION", "DIRECTOR");
+  auto lista = [&] {
+    if constexpr (std::is_same_v<Lista, ListaFF1>)
+      return ListaFF1(files, out, parametri, fisa, stare, "POPESCU ION", "DIRECTOR");
+    else
+      return ListaFF2(files, out, parametri, stare, "POPESCU ION", "DIRECTOR");
+  }();
   std::string linie;
   while (in.Next(linie)) {
-    s.Fisa.CodCurent = CodulLiniei(linie);
+    fisa.CodCurent = CodulLiniei(linie);
     if constexpr (std::is_same_v<Lista, ListaFF1>)
       lista.ListF1(linie);
     else

@@ -2,10 +2,11 @@
 
 #include <sstream>
 
-#include "app/Stare.h"
 #include "listings/ListaFF1.h"
 #include "listings/ListaFF2.h"
+#include "params/Cuantum.h"
 #include "platform/Files.h"
+#include "sheets/FisaInLucru.h"
 #include "support/TestSupport.h"
 
 namespace fisc {
@@ -45,16 +46,16 @@ class Liste : public ::testing::Test {
     test::WriteBytes(dir_ / "Repfisc.txt",
                      "12345674,1,#SC TEST SRL#,##,##,#DEVA#,#HUNEDOARA#,#S#,#2#,0,##,##,##,##,,##,"
                      "##\r\n");
-    s_.Parametri.AnFiscal = "2002";
-    s_.Parametri.DedLuna[12] = 1600000;
-    s_.Listare.Exemplar = "angajat";
-    s_.Fisa.CodCurent = kCod;
+    parametri_.AnFiscal = "2002";
+    parametri_.DedLuna[12] = 1600000;
+    listare_.Exemplar = "angajat";
+    fisa_.CodCurent = kCod;
   }
 
   std::vector<std::string> FF1(const std::string& record) {
     {
       LineWriter out = files_.Write("ListF1.txt");
-      ListaFF1 lista(files_, out, s_, "nume", "functie");
+      ListaFF1 lista(files_, out, parametri_, fisa_, listare_, "nume", "functie");
       lista.ListF1(record);
       out.Close();
     }
@@ -63,7 +64,7 @@ class Liste : public ::testing::Test {
   std::vector<std::string> FF2(const std::string& record) {
     {
       LineWriter out = files_.Write("ListF2.txt");
-      ListaFF2 lista(files_, out, s_, "nume", "functie");
+      ListaFF2 lista(files_, out, parametri_, listare_, "nume", "functie");
       lista.ListF2(record);
       out.Close();
     }
@@ -86,7 +87,9 @@ class Liste : public ::testing::Test {
 
   test::TempDir dir_;
   Files files_{dir_.path()};
-  Stare s_;
+  ParametriAn parametri_;
+  FisaInLucru fisa_;
+  StareListare listare_;
 };
 
 TEST_F(Liste, ASheetIsPaddedToTheNextPageOfTheGrid) {
@@ -104,7 +107,7 @@ TEST_F(Liste, TwentyDependantsReachAThirdPageAndItsHeaderToo) {
   auto linii = FF1(RecordFF1("POPESCU"));
   EXPECT_EQ(linii.size(), 260u);
   EXPECT_EQ(Antete(linii), (std::vector<std::size_t>{66, 131, 196}));
-  EXPECT_EQ(s_.Fisa.NrPersoane, 20);
+  EXPECT_EQ(fisa_.NrPersoane, 20);
 }
 
 TEST_F(Liste, PastSevenPagesThereIsNoHeaderAndNoPadding) {
@@ -117,7 +120,7 @@ TEST_F(Liste, PastSevenPagesThereIsNoHeaderAndNoPadding) {
 }
 
 TEST_F(Liste, WithNoAnnualDeductionSectionVIRunsElevenLinesPastTheGrid) {
-  s_.Parametri.DedLuna[12] = 0;
+  parametri_.DedLuna[12] = 0;
   auto linii = FF1(RecordFF1("POPESCU"));
   EXPECT_EQ(linii.size(), 141u);
   EXPECT_EQ(Antete(linii), (std::vector<std::size_t>{66}));

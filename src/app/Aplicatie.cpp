@@ -6,9 +6,10 @@ namespace fisc {
 
 Aplicatie::Aplicatie(Platforma& platforma)
     : p_(platforma),
-      intro(desktop_, p_, stare_),
-      fisaI(desktop_, p_, stare_),
-      fisaII(desktop_, p_, stare_) {
+      intro(desktop_, p_, stare_.Parametri, stare_.DataGresita, stare_.Angajator, stare_.Fisa,
+            stare_.Listare),
+      fisaI(desktop_, p_, stare_.Parametri, stare_.Angajator, stare_.Fisa),
+      fisaII(desktop_, p_, stare_.Parametri, stare_.Fisa) {
   intro.Fisa_I = &fisaI;
   fisaI.Intro = &intro;
   fisaI.Fisa_II = &fisaII;

@@ -44,13 +44,13 @@ class Aplicatie {
   Intro intro;
   FisaI fisaI;
   FisaII fisaII;
-  Fisa1F fisa1F{desktop_, p_, stare_};
-  Fisa2 fisa2{desktop_, p_, stare_};
-  FrmGasit frmGasit{desktop_, p_, stare_};
-  LisBord lisBord{desktop_, p_, stare_};
-  ListabIV listabIV{desktop_, p_, stare_};
-  LisFise1 lisFise1{desktop_, p_, stare_};
-  LisFise2 lisFise2{desktop_, p_, stare_};
+  Fisa1F fisa1F{desktop_, p_, stare_.Parametri, stare_.Impozitar, stare_.Fisa, stare_.Listare};
+  Fisa2 fisa2{desktop_, p_, stare_.Parametri, stare_.Impozitar, stare_.Fisa, stare_.Listare};
+  FrmGasit frmGasit{desktop_, p_, stare_.Parametri, stare_.Fisa};
+  LisBord lisBord{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
+  ListabIV listabIV{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
+  LisFise1 lisFise1{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
+  LisFise2 lisFise2{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
 };
 
 }  // namespace fisc

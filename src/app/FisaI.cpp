@@ -1,13 +1,16 @@
 #include "app/FisaI.h"
 
-#include "app/Stare.h"
+#include "listings/Cadru.h"
+#include "params/Cuantum.h"
 #include "platform/Layout.h"
 #include "records/CititorCampuri.h"
 #include "records/CoduriFiscale.h"
 #include "records/Judete.h"
 #include "records/Numere.h"
 #include "sheets/Adresa.h"
+#include "sheets/Angajator.h"
 #include "sheets/FisaII.h"
+#include "sheets/FisaInLucru.h"
 #include "sheets/FisiereSet.h"
 #include "sheets/RecordAngajator.h"
 
@@ -29,7 +32,8 @@ Control& FisaI::AdaugaAdresa(int i, int x, int y, int w) {
   return c;
 }
 
-FisaI::FisaI(Desktop& desktop, Platforma& platforma, Stare& stare)
+FisaI::FisaI(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri,
+             StareAngajator& angajator, FisaInLucru& fisa)
     : Form(desktop, "Fisa_I", "Date de identificare angajator"),
       CodP(TextBox(*this, "CodP", 13, 170, 44, 140).SetSelectOnEntry(true)),
       TipAng(Label(*this, "TipAng", "", 320, 44, 360)),
@@ -48,7 +52,9 @@ FisaI::FisaI(Desktop& desktop, Platforma& platforma, Stare& stare)
                   AdaugaAdresa(9, 180, 146, 120), AdaugaAdresa(10, 10, 176, 400),
                   Button(*this, "Ok_Fisa_II", "Date identificare &angajat", 250, 396, 200, 36))),
       p_(platforma),
-      s_(stare) {
+      parametri_(parametri),
+      angajator_(angajator),
+      fisa_(fisa) {
   SetSize(700, 450);
   Label(*this, "EtTitlu", "I. Date de identificare angajator", 20, 8, 660, 26).SetFont(12, true);
   Label(*this, "EtCodP", "Cod angajator", 20, 44, 140);
@@ -156,12 +162,12 @@ FisaI::FisaI(Desktop& desktop, Platforma& platforma, Stare& stare)
       CodP.SetFocus();
       return;
     }
-    s_.CodAngajator = CodP.Text();
+    angajator_.CodAngajator = CodP.Text();
     SalveazaAngajator();
-    s_.Fisa.Gasit.clear();
+    fisa_.Gasit.clear();
     Hide();
     FisaII& f = *Fisa_II;
-    f.AnFisc.SetCaption(s_.Parametri.AnFiscal);
+    f.AnFisc.SetCaption(parametri_.AnFiscal);
     f.Frame1.SetVisible(false);
     f.Show();
     f.Option1.SetFocus();
@@ -175,7 +181,7 @@ FisaI::FisaI(Desktop& desktop, Platforma& platforma, Stare& stare)
   };
 
   Closing = [this](bool&) {
-    std::string rep = NumeAnual(Familie::Rep, s_.Parametri.AnFiscal);
+    std::string rep = NumeAnual(Familie::Rep, parametri_.AnFiscal);
     // The copy replaces the per-year file in one rename: deleting it first
     // would lose it to a failure in between.
     p_.files.Copy(fisier::Repfisc, rep);
@@ -183,17 +189,17 @@ FisaI::FisaI(Desktop& desktop, Platforma& platforma, Stare& stare)
   };
 }
 
-int FisaI::Tip() const { return static_cast<int>(Valoare(s_.TipAngajator)); }
+int FisaI::Tip() const { return static_cast<int>(Valoare(angajator_.TipAngajator)); }
 
 void FisaI::ArataTip(int tip) {
   if (tip == 1) {
     TipAng.SetCaption(kTip1);
-    s_.TipAngajator = "1";
+    angajator_.TipAngajator = "1";
     NumeP.SetText("");
     PrenP.SetText("");
   } else {
     TipAng.SetCaption(kTip2);
-    s_.TipAngajator = "2";
+    angajator_.TipAngajator = "2";
     DenP.SetText("");
   }
 }
@@ -203,18 +209,18 @@ void FisaI::IncarcaAngajator() {
   if (in.Eof()) return;
   RecordAngajator r = CitesteAngajator(in.Line());
   CodP.SetText(r.CodP);
-  s_.TipAngajator = r.TipAngajator;
+  angajator_.TipAngajator = r.TipAngajator;
   DenP.SetText(r.DenP);
   NumeP.SetText(r.NumeP);
   PrenP.SetText(r.PrenP);
-  s_.JudetAngajator = r.JudP;
+  angajator_.JudetAngajator = r.JudP;
   for (std::size_t i = 0; i < r.AdrP.size(); ++i) AdrP[i]->SetText(r.AdrP[i]);
 }
 
 void FisaI::SalveazaAngajator() {
   RecordAngajator r;
   r.CodP = CodP.Text();
-  r.TipAngajator = s_.TipAngajator;
+  r.TipAngajator = angajator_.TipAngajator;
   r.DenP = DenP.Text();
   r.NumeP = NumeP.Text();
   r.PrenP = PrenP.Text();
@@ -229,9 +235,9 @@ void FisaI::SalveazaAngajator() {
 void FisaI::GolesteAngajator() {
   for (Control* c : {&CodP, &DenP, &NumeP, &PrenP}) c->SetText("");
   for (Control* c : AdrP) c->SetText("");
-  s_.TipAngajator.clear();
+  angajator_.TipAngajator.clear();
   TipAng.SetCaption("");
-  s_.JudetAngajator = " ";
+  angajator_.JudetAngajator = " ";
 }
 
 }  // namespace fisc

@@ -8,12 +8,15 @@
 
 namespace fisc {
 
-struct Stare;
+struct ParametriAn;
+struct StareAngajator;
+struct FisaInLucru;
 class FisaII;
 
 class FisaI : public Form {
  public:
-  FisaI(Desktop& desktop, Platforma& platforma, Stare& stare);
+  FisaI(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri,
+        StareAngajator& angajator, FisaInLucru& fisa);
 
   Control& CodP;
   Control& TipAng;
@@ -44,7 +47,9 @@ class FisaI : public Form {
   int Tip() const;
 
   Platforma& p_;
-  Stare& s_;
+  const ParametriAn& parametri_;
+  StareAngajator& angajator_;
+  FisaInLucru& fisa_;
 };
 
 }  // namespace fisc

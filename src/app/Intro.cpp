@@ -3,9 +3,8 @@
 #include "app/Discheta.h"
 #include "app/FisaI.h"
 #include "app/Schimb.h"
-#include "sheets/Sortare.h"
-#include "app/Stare.h"
 #include "listings/Borderou.h"
+#include "listings/Cadru.h"
 #include "listings/Centralizator.h"
 #include "listings/LisFise1.h"
 #include "listings/LisFise2.h"
@@ -17,11 +16,15 @@
 #include "records/CititorCampuri.h"
 #include "records/Date.h"
 #include "records/Judete.h"
+#include "sheets/Angajator.h"
+#include "sheets/FisaInLucru.h"
 #include "sheets/FisiereSet.h"
+#include "sheets/Sortare.h"
 
 namespace fisc {
 
-Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
+Intro::Intro(Desktop& desktop, Platforma& platforma, ParametriAn& parametri, int& dataGresita,
+             StareAngajator& angajator, FisaInLucru& fisa, StareListare& listare)
     : Form(desktop, "Intro",
            "Impozitul pe venit (varianta distribuita de Zelvan) - versiunea 2.1 /2002"),
       EtAn(Label(*this, "EtAn", " 2   0   0   2", 290, 4, 200, 36).SetFont(18, true)),
@@ -79,7 +82,11 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
                    20, 448, 720, 72)),
       Combo1(Add(ControlKind::ComboBox, "Combo1").SetSorted(true).At(480, 300, 260, 22)),
       p_(platforma),
-      s_(stare) {
+      parametri_(parametri),
+      dataGresita_(dataGresita),
+      angajator_(angajator),
+      fisa_(fisa),
+      listare_(listare) {
   SetSize(760, 540);
   EtAsteptati.SetVisible(false);
   Combo1.SetVisible(false);
@@ -91,13 +98,13 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
     FisaI& f = *Fisa_I;
     f.JudP.Clear();
     for (std::string_view j : Judete) f.JudP.AddItem(j);
-    s_.JudetAngajator.clear();
+    angajator_.JudetAngajator.clear();
     f.IncarcaAngajator();
     f.Show();
-    if (Trim(s_.JudetAngajator).empty())
+    if (Trim(angajator_.JudetAngajator).empty())
       f.JudP.SetListIndex(0);
     else
-      f.JudP.SetText(s_.JudetAngajator);
+      f.JudP.SetText(angajator_.JudetAngajator);
   };
 
   Command9.GotFocus = [this] { EtAsteptati.SetVisible(true); };
@@ -108,7 +115,7 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
     // The verification learns the year from this file.
     p_.files.DeleteIfExists("tr12.txt");
     LineWriter tr = p_.files.Write("tr12.txt");
-    tr.Line(s_.Parametri.AnFiscal);
+    tr.Line(parametri_.AnFiscal);
     tr.Close();
     Command1.SetFocus();
   };
@@ -120,7 +127,7 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
   Command8.Click = [this] { GolesteSortare(); };
   Command10.Click = [this] {
     GolesteSortare();
-    IncarcaCuantum(p_.files, s_.Parametri);
+    IncarcaCuantum(p_.files, parametri_);
   };
   Command7.Click = [this] {
     GolesteSortare();
@@ -149,19 +156,19 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
   };
   Tabel5.Click = [this] {
     Warn(p_.dialogs, AvertizareVizualizare, "");
-    StareListare& l = s_.Listare;
-    if (ScrieTabel5(p_.files, Combo1, l, s_.Fisa.CodCurent, s_.Parametri.AnFiscal))
+    StareListare& l = listare_;
+    if (ScrieTabel5(p_.files, Combo1, l, fisa_.CodCurent, parametri_.AnFiscal))
       ArataSiListeaza(p_.launcher, p_.files, p_.printer, l.LiniePagina, "tab5.txt", ListeazaTabel);
   };
 
   But_salvari.Click = [this] {
     GolesteSortare();
-    SalveazaPeDischeta(p_, s_.Parametri.AnFiscal);
+    SalveazaPeDischeta(p_, parametri_.AnFiscal);
     Command1.SetFocus();
   };
 
   Closing = [this](bool&) {
-    SchimbLaSfarsit(p_.files, s_.Parametri.AnFiscal);
+    SchimbLaSfarsit(p_.files, parametri_.AnFiscal);
     Owner().EndProgram();
   };
 }
@@ -169,8 +176,8 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, Stare& stare)
 void Intro::GolesteSortare() { Check1.SetValue(0); }
 
 bool Intro::DataCorecta() {
-  s_.DataGresita = VerificaDataRegionala(p_.clock, p_.dialogs);
-  return s_.DataGresita != 1;
+  dataGresita_ = VerificaDataRegionala(p_.clock, p_.dialogs);
+  return dataGresita_ != 1;
 }
 
 }  // namespace fisc

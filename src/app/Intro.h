@@ -6,7 +6,10 @@
 
 namespace fisc {
 
-struct Stare;
+struct ParametriAn;
+struct StareAngajator;
+struct FisaInLucru;
+struct StareListare;
 class FisaI;
 class LisBord;
 class ListabIV;
@@ -15,7 +18,8 @@ class LisFise2;
 
 class Intro : public Form {
  public:
-  Intro(Desktop& desktop, Platforma& platforma, Stare& stare);
+  Intro(Desktop& desktop, Platforma& platforma, ParametriAn& parametri, int& dataGresita,
+        StareAngajator& angajator, FisaInLucru& fisa, StareListare& listare);
 
   Control& EtAn;
   Control& Command1;
@@ -53,7 +57,11 @@ class Intro : public Form {
   bool DataCorecta();
 
   Platforma& p_;
-  Stare& s_;
+  ParametriAn& parametri_;
+  int& dataGresita_;
+  StareAngajator& angajator_;
+  FisaInLucru& fisa_;
+  StareListare& listare_;
 };
 
 }  // namespace fisc

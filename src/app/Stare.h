@@ -1,11 +1,11 @@
 #pragma once
-// The shared state of a run: one object, owned by the application and passed
-// by reference to every screen that reads or writes it.
-#include <string>
-
+// The state of a run: one object, owned by the application, made of the
+// pieces that belong to their subsystems. Each screen is handed the pieces it
+// reads or writes, never the whole.
 #include "listings/Cadru.h"
 #include "params/Cuantum.h"
 #include "params/Impozitar.h"
+#include "sheets/Angajator.h"
 #include "sheets/FisaInLucru.h"
 
 namespace fisc {
@@ -14,9 +14,7 @@ struct Stare {
   ParametriAn Parametri;
   TabelImpozit Impozitar{};
   int DataGresita = 0;  // 1 when the machine's short date is not day first
-  // The employer: the code last confirmed on its screen, its type and the
-  // county read from its record until the screen shows it.
-  std::string CodAngajator, TipAngajator, JudetAngajator;
+  StareAngajator Angajator;
   FisaInLucru Fisa;
   StareListare Listare;
 };

@@ -1,6 +1,7 @@
 #include "listings/Borderou.h"
+#include "params/Cuantum.h"
+#include "sheets/FisaInLucru.h"
 
-#include "app/Stare.h"
 #include "listings/Cadru.h"
 #include "listings/Randuri.h"
 #include "platform/Failure.h"
@@ -192,7 +193,8 @@ void ScrieBorderou(Files& files, StareListare& s, std::string& codCurent, const 
 
 namespace fisc {
 
-LisBord::LisBord(Desktop& desktop, Platforma& platforma, Stare& stare)
+LisBord::LisBord(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri,
+                 FisaInLucru& fisa, StareListare& listare)
     : Form(desktop, "LisBord", "Conditii pentru listare Borderou"),
       Combo2(Add(ControlKind::ComboBox, "Combo2").SetListOnly(true).At(250, 20, 330, 22)),
       Dnupren(TextBox(*this, "Dnupren", 0, 250, 70, 330)),
@@ -201,7 +203,9 @@ LisBord::LisBord(Desktop& desktop, Platforma& platforma, Stare& stare)
       DpersC(TextBox(*this, "DpersC", 0, 250, 160, 330)),
       Command1(Button(*this, "Command1", "Listare", 250, 250, 150, 32)),
       p_(platforma),
-      s_(stare) {
+      parametri_(parametri),
+      fisa_(fisa),
+      listare_(listare) {
   SetSize(620, 300);
   Label(*this, "EtCombo2", "Continutul borderoului de listat", 20, 20, 220);
   Label(*this, "EtDnupren", "Nume si prenume :", 20, 70, 220);
@@ -232,12 +236,12 @@ LisBord::LisBord(Desktop& desktop, Platforma& platforma, Stare& stare)
 
   Command1.Click = [this] {
     Warn(p_.dialogs, AvertizareVizualizare, "");
-    StareListare& l = s_.Listare;
+    StareListare& l = listare_;
     l.SemnatarFunctie = Dfunc.Text();
     l.SemnatarNume = Dnupren.Text();
-    CereriBorderou c{Combo2.ListIndex(), s_.Parametri.AnFiscal, PersoanaContact,
-                     TelefonContact,     Dnupren.Text(),        Dfunc.Text()};
-    ScrieBorderou(p_.files, l, s_.Fisa.CodCurent, c);
+    CereriBorderou c{Combo2.ListIndex(), parametri_.AnFiscal, PersoanaContact,
+                     TelefonContact,     Dnupren.Text(),      Dfunc.Text()};
+    ScrieBorderou(p_.files, l, fisa_.CodCurent, c);
     ArataSiListeaza(p_.launcher, p_.files, p_.printer, l.LiniePagina, "borderou.txt",
                     ListeazaBorderou);
   };
@@ -249,8 +253,8 @@ void LisBord::Deschide() {
   Show();
   if (deschis) return;
   Combo2.SetListIndex(0);
-  Dnupren.SetText(s_.Listare.SemnatarNume);
-  Dfunc.SetText(s_.Listare.SemnatarFunctie);
+  Dnupren.SetText(listare_.SemnatarNume);
+  Dfunc.SetText(listare_.SemnatarFunctie);
   Dtel.SetText("");
   DpersC.SetText("");
 }

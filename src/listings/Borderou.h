@@ -11,7 +11,9 @@
 
 namespace fisc {
 
-struct Stare;
+struct ParametriAn;
+struct FisaInLucru;
+struct StareListare;
 struct StareListare;
 
 // The items of LisBord's list, in their order.
@@ -32,7 +34,8 @@ void ScrieBorderou(Files& files, StareListare& s, std::string& codCurent, const 
 
 class LisBord : public Form {
  public:
-  LisBord(Desktop& desktop, Platforma& platforma, Stare& stare);
+  LisBord(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri, FisaInLucru& fisa,
+          StareListare& listare);
 
   Control& Combo2;
   Control& Dnupren;
@@ -51,7 +54,9 @@ class LisBord : public Form {
 
  private:
   Platforma& p_;
-  Stare& s_;
+  const ParametriAn& parametri_;
+  FisaInLucru& fisa_;
+  StareListare& listare_;
 };
 
 }  // namespace fisc

@@ -2,12 +2,12 @@
 
 #include <cmath>
 
-#include "sheets/RecordAngajator.h"
 #include "platform/Failure.h"
 #include "platform/Files.h"
 #include "records/CititorCampuri.h"
 #include "records/Numere.h"
 #include "sheets/FisiereSet.h"
+#include "sheets/RecordAngajator.h"
 #include "sheets/RecordFF1.h"
 
 namespace fisc {

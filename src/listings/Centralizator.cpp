@@ -1,6 +1,7 @@
 #include "listings/Centralizator.h"
+#include "params/Cuantum.h"
+#include "sheets/FisaInLucru.h"
 
-#include "app/Stare.h"
 #include "listings/Cadru.h"
 #include "listings/Randuri.h"
 #include "platform/Failure.h"
@@ -96,7 +97,8 @@ void ScrieCentralizator(Files& files, StareListare& s, std::string& codCurent,
 
 namespace fisc {
 
-ListabIV::ListabIV(Desktop& desktop, Platforma& platforma, Stare& stare)
+ListabIV::ListabIV(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri,
+                   FisaInLucru& fisa, StareListare& listare)
     : Form(desktop, "ListabIV", "Conditii listare centralizator lunar"),
       Combo2(Add(ControlKind::ComboBox, "Combo2").SetListOnly(true).At(250, 20, 200, 22)),
       Option1(Add(ControlKind::OptionButton, "Option1")
@@ -107,16 +109,18 @@ ListabIV::ListabIV(Desktop& desktop, Platforma& platforma, Stare& stare)
                   .At(250, 90, 200, 22)),
       Command1(Button(*this, "Command1", "Listare", 250, 140, 150, 32)),
       p_(platforma),
-      s_(stare) {
+      parametri_(parametri),
+      fisa_(fisa),
+      listare_(listare) {
   SetSize(480, 200);
   Label(*this, "EtCombo2", "Luna pentru centralizare date :", 20, 20, 220);
   for (std::string_view luna : LuniCentralizator) Combo2.AddItem(luna);
 
   Command1.Click = [this] {
     Warn(p_.dialogs, AvertizareVizualizare, "");
-    CereriCentralizator c{Combo2.ListIndex(), Option1.Value() == 1, s_.Parametri.AnFiscal};
-    ScrieCentralizator(p_.files, s_.Listare, s_.Fisa.CodCurent, c);
-    ArataSiListeaza(p_.launcher, p_.files, p_.printer, s_.Listare.LiniePagina, "Listab4.txt",
+    CereriCentralizator c{Combo2.ListIndex(), Option1.Value() == 1, parametri_.AnFiscal};
+    ScrieCentralizator(p_.files, listare_, fisa_.CodCurent, c);
+    ArataSiListeaza(p_.launcher, p_.files, p_.printer, listare_.LiniePagina, "Listab4.txt",
                     ListeazaFise);
   };
 }

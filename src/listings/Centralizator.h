@@ -11,7 +11,9 @@
 
 namespace fisc {
 
-struct Stare;
+struct ParametriAn;
+struct FisaInLucru;
+struct StareListare;
 struct StareListare;
 
 inline constexpr std::array<std::string_view, 12> LuniCentralizator = {
@@ -31,7 +33,8 @@ void ScrieCentralizator(Files& files, StareListare& s, std::string& codCurent,
 
 class ListabIV : public Form {
  public:
-  ListabIV(Desktop& desktop, Platforma& platforma, Stare& stare);
+  ListabIV(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri, FisaInLucru& fisa,
+           StareListare& listare);
 
   Control& Combo2;
   Control& Option1;
@@ -43,7 +46,9 @@ class ListabIV : public Form {
 
  private:
   Platforma& p_;
-  Stare& s_;
+  const ParametriAn& parametri_;
+  FisaInLucru& fisa_;
+  StareListare& listare_;
 };
 
 }  // namespace fisc

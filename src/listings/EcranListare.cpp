@@ -1,7 +1,8 @@
 #include "listings/EcranListare.h"
 
-#include "app/Stare.h"
+#include "listings/Cadru.h"
 #include "records/CititorCampuri.h"
+#include "sheets/FisaInLucru.h"
 #include "sheets/ListaFise.h"
 
 namespace fisc {
@@ -19,17 +20,17 @@ void LeagaSemnatarul(Control& Dnupren, Control& Dfunc) {
   Dfunc.LostFocus = [&Dfunc] { Dfunc.SetText(Majuscule(Dfunc.Text())); };
 }
 
-void LeagaAlegereaFisei(Control& Combo3, Stare& stare,
+void LeagaAlegereaFisei(Control& Combo3, FisaInLucru& fisa, StareListare& listare,
                         std::function<void(const std::string& cod)> listeaza) {
-  Combo3.Click = [&Combo3, &stare, listeaza = std::move(listeaza)] {
+  Combo3.Click = [&Combo3, &fisa, &listare, listeaza = std::move(listeaza)] {
     if (Combo3.ListIndex() == -1) {
       Combo3.SetListIndex(0);
       return;
     }
-    stare.Fisa.CodCurent = CodulDinLista(Combo3.Text()).value_or("");
-    stare.Listare.CondListare = kOFisa;
-    if (stare.Fisa.CodCurent.empty()) return;
-    listeaza(stare.Fisa.CodCurent);
+    fisa.CodCurent = CodulDinLista(Combo3.Text()).value_or("");
+    listare.CondListare = kOFisa;
+    if (fisa.CodCurent.empty()) return;
+    listeaza(fisa.CodCurent);
   };
 }
 

@@ -8,7 +8,8 @@
 
 namespace fisc {
 
-struct Stare;
+struct FisaInLucru;
+struct StareListare;
 
 // Name and function of the signer go to upper case on leaving; Enter on the
 // name moves to the function.
@@ -17,7 +18,7 @@ void LeagaSemnatarul(Control& Dnupren, Control& Dfunc);
 // A choice in the list of sheets: the first entry stands for a click on an
 // empty choice, and choosing it runs the handler again; a chosen sheet is
 // listed alone.
-void LeagaAlegereaFisei(Control& Combo3, Stare& stare,
+void LeagaAlegereaFisei(Control& Combo3, FisaInLucru& fisa, StareListare& listare,
                         std::function<void(const std::string& cod)> listeaza);
 
 }  // namespace fisc

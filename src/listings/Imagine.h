@@ -8,12 +8,15 @@
 
 namespace fisc {
 
-struct Stare;
+struct FisaInLucru;
+struct ParametriAn;
+struct StareListare;
 
 // ListF1.txt from `fisa` and the dependants of Ded, with no page headers.
-void ImagineFF1(Platforma& p, Stare& s, FisaFF1 fisa);
+void ImagineFF1(Platforma& p, const ParametriAn& parametri, FisaInLucru& inLucru,
+                StareListare& listare, FisaFF1 fisa);
 
 // ListF2.txt from `fisa`.
-void ImagineFF2(Platforma& p, Stare& s, FisaFF2 fisa);
+void ImagineFF2(Platforma& p, const ParametriAn& parametri, StareListare& listare, FisaFF2 fisa);
 
 }  // namespace fisc

@@ -1,6 +1,7 @@
 #include "listings/LisFise1.h"
+#include "params/Cuantum.h"
+#include "sheets/FisaInLucru.h"
 
-#include "app/Stare.h"
 #include "listings/EcranListare.h"
 #include "listings/ListaFF1.h"
 #include "listings/ScrieFisele.h"
@@ -36,7 +37,8 @@ std::string_view CodulLiniei(std::string_view linie) {
   return linie.substr(0, virgula);
 }
 
-LisFise1::LisFise1(Desktop& desktop, Platforma& platforma, Stare& stare)
+LisFise1::LisFise1(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri,
+                   FisaInLucru& fisa, StareListare& listare)
     : Form(desktop, "LisFise1", "Conditii pentru listare fise 1"),
       Combo1(Add(ControlKind::ComboBox, "Combo1").SetListOnly(true).At(200, 20, 300, 22)),
       Combo2(Add(ControlKind::ComboBox, "Combo2").SetListOnly(true).At(200, 56, 300, 22)),
@@ -46,7 +48,9 @@ LisFise1::LisFise1(Desktop& desktop, Platforma& platforma, Stare& stare)
       Combo3(Add(ControlKind::ComboBox, "Combo3").SetListOnly(true).At(20, 230, 480, 22)),
       Label20(Label(*this, "Label20", "", 20, 262, 480)),
       p_(platforma),
-      s_(stare) {
+      parametri_(parametri),
+      fisa_(fisa),
+      listare_(listare) {
   SetSize(540, 300);
   Label(*this, "EtCombo1", "Exemplar pentru :", 20, 20, 170);
   Label(*this, "EtCombo2", "Fise 1 de listat", 20, 56, 170);
@@ -63,7 +67,7 @@ LisFise1::LisFise1(Desktop& desktop, Platforma& platforma, Stare& stare)
   Combo1.Click = [this] {
     constexpr std::string_view kExemplar[] = {"angajat", "angajator", "unitatea fiscala"};
     int i = Combo1.ListIndex();
-    if (i >= 0 && i < 3) s_.Listare.Exemplar = kExemplar[i];
+    if (i >= 0 && i < 3) listare_.Exemplar = kExemplar[i];
   };
 
   Combo2.Click = [this] {
@@ -96,7 +100,7 @@ LisFise1::LisFise1(Desktop& desktop, Platforma& platforma, Stare& stare)
   Command1.Click = [this] {
     Warn(p_.dialogs, kAvertizare, "");
     p_.dialogs.Busy(true);
-    StareListare& l = s_.Listare;
+    StareListare& l = listare_;
     std::string sursa = SursaFF1(p_.files);
     switch (Combo2.ListIndex()) {
       case 0:
@@ -108,7 +112,7 @@ LisFise1::LisFise1(Desktop& desktop, Platforma& platforma, Stare& stare)
         l.CondListare = Combo2.ListIndex() == 1 ? "N" : "R";
         l.FisierDeListat = Combo2.ListIndex() == 1 ? listare::Ff1N : listare::Ff1R;
         l.FisierSursa = sursa;
-        FiltruFise(p_.files, l, s_.Fisa.CodCurent);
+        FiltruFise(p_.files, l, fisa_.CodCurent);
         break;
       default: p_.dialogs.Busy(false); return;
     }
@@ -118,7 +122,7 @@ LisFise1::LisFise1(Desktop& desktop, Platforma& platforma, Stare& stare)
     p_.dialogs.Busy(false);
   };
 
-  LeagaAlegereaFisei(Combo3, s_,
+  LeagaAlegereaFisei(Combo3, fisa_, listare_,
                      [this](const std::string& cod) { ScrieSiListeaza(SursaFF1(p_.files), cod); });
 }
 
@@ -130,14 +134,18 @@ void LisFise1::Deschide() {
   Combo2.SetListIndex(0);
   Combo3.SetVisible(false);
   Label20.SetVisible(false);
-  Dnupren.SetText(s_.Listare.SemnatarNume);
-  Dfunc.SetText(s_.Listare.SemnatarFunctie);
+  Dnupren.SetText(listare_.SemnatarNume);
+  Dfunc.SetText(listare_.SemnatarFunctie);
   Show();
 }
 
 void LisFise1::ScrieSiListeaza(std::string_view sursa, std::string_view cod) {
-  ScrieFisele<ListaFF1>(p_, s_, sursa, cod, listare::ListF1, "Listf1.txt", Dnupren.Text(),
-                        Dfunc.Text(), &ListaFF1::ListF1);
+  ScrieFisele(
+      p_, fisa_, listare_, sursa, cod, listare::ListF1, "Listf1.txt",
+      [this](LineWriter& out) {
+        return ListaFF1(p_.files, out, parametri_, fisa_, listare_, Dnupren.Text(), Dfunc.Text());
+      },
+      &ListaFF1::ListF1);
 }
 
 }  // namespace fisc

@@ -8,11 +8,14 @@
 
 namespace fisc {
 
-struct Stare;
+struct ParametriAn;
+struct FisaInLucru;
+struct StareListare;
 
 class LisFise1 : public Form {
  public:
-  LisFise1(Desktop& desktop, Platforma& platforma, Stare& stare);
+  LisFise1(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri, FisaInLucru& fisa,
+           StareListare& listare);
 
   Control& Combo1;
   Control& Combo2;
@@ -32,7 +35,9 @@ class LisFise1 : public Form {
   void ScrieSiListeaza(std::string_view sursa, std::string_view cod);
 
   Platforma& p_;
-  Stare& s_;
+  const ParametriAn& parametri_;
+  FisaInLucru& fisa_;
+  StareListare& listare_;
 };
 
 // The code of a record: the text before its first comma (failure 5 without one).

@@ -1,6 +1,7 @@
 #include "listings/LisFise2.h"
+#include "params/Cuantum.h"
+#include "sheets/FisaInLucru.h"
 
-#include "app/Stare.h"
 #include "listings/EcranListare.h"
 #include "listings/LisFise1.h"
 #include "listings/ListaFF2.h"
@@ -20,7 +21,8 @@ constexpr std::string_view kAvertizare =
     "in Microsoft Word si folositi setarile Courier New (9), Top,Bottom=3cm. ";
 }  // namespace
 
-LisFise2::LisFise2(Desktop& desktop, Platforma& platforma, Stare& stare)
+LisFise2::LisFise2(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri,
+                   FisaInLucru& fisa, StareListare& listare)
     : Form(desktop, "LisFise2", "Conditii pentru listare fise 2"),
       Combo1(Add(ControlKind::ComboBox, "Combo1").SetListOnly(true).At(20, 44, 320, 22)),
       Option1_1(
@@ -33,7 +35,9 @@ LisFise2::LisFise2(Desktop& desktop, Platforma& platforma, Stare& stare)
       Combo3(Add(ControlKind::ComboBox, "Combo3").SetListOnly(true).At(20, 244, 480, 22)),
       Label20(Label(*this, "Label20", "", 20, 276, 480)),
       p_(platforma),
-      s_(stare) {
+      parametri_(parametri),
+      fisa_(fisa),
+      listare_(listare) {
   SetSize(540, 320);
   Label(*this, "EtCombo1", "Alegeti exemplarul de listat pentru fise fiscale 2", 20, 16, 330);
   Label(*this, "EtNota",
@@ -50,7 +54,7 @@ LisFise2::LisFise2(Desktop& desktop, Platforma& platforma, Stare& stare)
   Combo1.Click = [this] {
     constexpr std::string_view kExemplar[] = {"angajat", "angajator", "unitatea fiscala"};
     int i = Combo1.ListIndex();
-    if (i >= 0 && i < 3) s_.Listare.Exemplar = kExemplar[i];
+    if (i >= 0 && i < 3) listare_.Exemplar = kExemplar[i];
   };
 
   // The choice works through the focus, not the click: leaving "- una"
@@ -61,11 +65,11 @@ LisFise2::LisFise2(Desktop& desktop, Platforma& platforma, Stare& stare)
     Command1.SetVisible(true);
     Combo3.SetVisible(false);
     Label20.SetVisible(false);
-    s_.Listare.CondListare = "T";
+    listare_.CondListare = "T";
   };
   Option1_0.LostFocus = [this] {
     Combo3.SetVisible(false);
-    s_.Listare.CondListare = "T";
+    listare_.CondListare = "T";
   };
 
   LeagaSemnatarul(Dnupren, Dfunc);
@@ -80,17 +84,17 @@ LisFise2::LisFise2(Desktop& desktop, Platforma& platforma, Stare& stare)
   Command1.Click = [this] {
     Warn(p_.dialogs, kAvertizare, "");
     p_.dialogs.Busy(true);
-    if (s_.Listare.CondListare == "S") {
+    if (listare_.CondListare == "S") {
       p_.dialogs.Busy(false);
       return;
     }
-    s_.Listare.SemnatarFunctie = Dfunc.Text();
-    s_.Listare.SemnatarNume = Dnupren.Text();
+    listare_.SemnatarFunctie = Dfunc.Text();
+    listare_.SemnatarNume = Dnupren.Text();
     ScrieSiListeaza(SursaFF2(p_.files), "");
     p_.dialogs.Busy(false);
   };
 
-  LeagaAlegereaFisei(Combo3, s_,
+  LeagaAlegereaFisei(Combo3, fisa_, listare_,
                      [this](const std::string& cod) { ScrieSiListeaza(SursaFF2(p_.files), cod); });
 }
 
@@ -98,12 +102,12 @@ void LisFise2::Deschide() {
   Combo1.SetListIndex(-1);
   Combo1.SetListIndex(0);
   Option1_0.SetValue(1);
-  s_.Listare.CondListare = "T";
+  listare_.CondListare = "T";
   Command1.SetVisible(true);
   Combo3.SetVisible(false);
   Label20.SetVisible(false);
-  Dnupren.SetText(s_.Listare.SemnatarNume);
-  Dfunc.SetText(s_.Listare.SemnatarFunctie);
+  Dnupren.SetText(listare_.SemnatarNume);
+  Dfunc.SetText(listare_.SemnatarFunctie);
   Show();
 }
 
@@ -113,14 +117,18 @@ void LisFise2::UmpleLista() {
   Label20.SetVisible(true);
   Combo3.Clear();
   AdaugaFise(Combo3, p_.files, SursaFF2(p_.files), "--FF2");
-  s_.Listare.CondListare = "S";
+  listare_.CondListare = "S";
   Label20.SetCaption("  S-au incarcat " + std::to_string(Combo3.ListCount()) +
                      " fise 2. Alegeti o fisa !");
 }
 
 void LisFise2::ScrieSiListeaza(std::string_view sursa, std::string_view cod) {
-  ScrieFisele<ListaFF2>(p_, s_, sursa, cod, listare::ListF2, "Listf2.txt", Dnupren.Text(),
-                        Dfunc.Text(), &ListaFF2::ListF2);
+  ScrieFisele(
+      p_, fisa_, listare_, sursa, cod, listare::ListF2, "Listf2.txt",
+      [this](LineWriter& out) {
+        return ListaFF2(p_.files, out, parametri_, listare_, Dnupren.Text(), Dfunc.Text());
+      },
+      &ListaFF2::ListF2);
 }
 
 }  // namespace fisc

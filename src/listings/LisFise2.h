@@ -8,11 +8,14 @@
 
 namespace fisc {
 
-struct Stare;
+struct ParametriAn;
+struct FisaInLucru;
+struct StareListare;
 
 class LisFise2 : public Form {
  public:
-  LisFise2(Desktop& desktop, Platforma& platforma, Stare& stare);
+  LisFise2(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri, FisaInLucru& fisa,
+           StareListare& listare);
 
   Control& Combo1;
   Control& Option1_1;  // "- una"
@@ -33,7 +36,9 @@ class LisFise2 : public Form {
   void ScrieSiListeaza(std::string_view sursa, std::string_view cod);
 
   Platforma& p_;
-  Stare& s_;
+  const ParametriAn& parametri_;
+  FisaInLucru& fisa_;
+  StareListare& listare_;
 };
 
 }  // namespace fisc

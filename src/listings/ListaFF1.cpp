@@ -1,8 +1,9 @@
 #include "listings/ListaFF1.h"
+#include "params/Cuantum.h"
+#include "sheets/FisaInLucru.h"
 
 #include <array>
 
-#include "app/Stare.h"
 #include "platform/Failure.h"
 #include "platform/Files.h"
 #include "records/CititorCampuri.h"
@@ -119,18 +120,21 @@ constexpr std::string_view kLuniAntet =
 
 }  // namespace
 
-ListaFF1::ListaFF1(const Files& files, LineWriter& out, Stare& stare, std::string_view semnatarNume,
+ListaFF1::ListaFF1(const Files& files, LineWriter& out, const ParametriAn& parametri,
+                   FisaInLucru& fisa, StareListare& listare, std::string_view semnatarNume,
                    std::string_view semnatarFunctie)
     : files_(files),
       out_(out),
-      s_(stare),
+      parametri_(parametri),
+      fisa_(fisa),
+      listare_(listare),
       nume_(Majuscule(semnatarNume)),
       functie_(Majuscule(semnatarFunctie)),
       deduceri_(files) {}
 
 void ListaFF1::Scrie(std::string_view text) {
-  fisa_ += text;
-  fisa_ += "\r\n";
+  text_ += text;
+  text_ += "\r\n";
 }
 
 void ListaFF1::Linie(std::string_view text) {
@@ -144,26 +148,26 @@ void ListaFF1::Rand(std::string_view eticheta, std::string_view a, int la, std::
   // leaves no piece of itself in the file.
   if (a.size() > static_cast<std::size_t>(la) || b.size() > static_cast<std::size_t>(lb))
     Fail(err::InvalidCall);
-  fisa_ += eticheta;
-  fisa_.append(static_cast<std::size_t>(la) - a.size(), ' ');
-  fisa_ += a;
-  fisa_.append(static_cast<std::size_t>(lb) - b.size(), ' ');
-  fisa_ += b;
-  fisa_ += "\r\n";
+  text_ += eticheta;
+  text_.append(static_cast<std::size_t>(la) - a.size(), ' ');
+  text_ += a;
+  text_.append(static_cast<std::size_t>(lb) - b.size(), ' ');
+  text_ += b;
+  text_ += "\r\n";
   if (paginat_) ipagina();
 }
 
 void ListaFF1::Goleste() {
-  out_.Write(fisa_);
-  fisa_.clear();
+  out_.Write(text_);
+  text_.clear();
 }
 
 void ListaFF1::ipagina() {
-  short& linie = s_.Listare.LiniePagina;
+  short& linie = listare_.LiniePagina;
   NumaraLinie(linie);
   for (int pagina = 1; pagina <= 7; ++pagina) {
     if (linie != LiniiPagina * pagina) continue;
-    Scrie("                                                   (Cod angajat : " + s_.Fisa.CodCurent +
+    Scrie("                                                   (Cod angajat : " + fisa_.CodCurent +
           ")");
     NumaraLinie(linie);
     Scrie("");
@@ -173,19 +177,19 @@ void ListaFF1::ipagina() {
 }
 
 void ListaFF1::ListF1(std::string_view linie) {
-  s_.Listare.LiniePagina = 0;
+  listare_.LiniePagina = 0;
   LiniiPagina = 65;
   paginat_ = true;
   FisaFF1 f = CitesteFF1(linie);
   try {
-    Linie(LiniaExemplar(s_.Listare.Exemplar));
+    Linie(LiniaExemplar(listare_.Exemplar));
     ScrieFisa(f, nullptr, 0);
   } catch (...) {
     Goleste();  // the lines written before a failure stay in the file
     throw;
   }
   // Padding to the next page of the grid; past 7 pages there is none.
-  const int c = s_.Listare.LiniePagina, L = LiniiPagina;
+  const int c = listare_.LiniePagina, L = LiniiPagina;
   if (c >= 1 && c < 7 * L && c % L != 0)
     for (int k = (c / L + 1) * L - c; k > 0; --k) Scrie("");
   Goleste();
@@ -193,7 +197,7 @@ void ListaFF1::ListF1(std::string_view linie) {
 
 void ListaFF1::Imagine(FisaFF1& fisa, const TabelDed& ded, short nrPersoane) {
   paginat_ = false;
-  Scrie("(copie pentru angajat)" + s_.Listare.Exemplar + ")");
+  Scrie("(copie pentru angajat)" + listare_.Exemplar + ")");
   try {
     ScrieFisa(fisa, &ded, nrPersoane);
   } catch (...) {
@@ -206,7 +210,7 @@ void ListaFF1::Imagine(FisaFF1& fisa, const TabelDed& ded, short nrPersoane) {
 void ListaFF1::ScrieFisa(FisaFF1& f, const TabelDed* ded, short nrPersoane) {
   Linie("");
   Linie(U80);
-  Linie("                      FISA FISCALA 1 pentru anul " + s_.Parametri.AnFiscal);
+  Linie("                      FISA FISCALA 1 pentru anul " + parametri_.AnFiscal);
   Linie("                         (pentru functia de baza) ");
   Linie(U80);
   Linie("                                                 Fisa fiscala rectificativa : " +
@@ -219,7 +223,7 @@ void ListaFF1::ScrieFisa(FisaFF1& f, const TabelDed* ded, short nrPersoane) {
   if (!angajator_) angajator_ = CitesteBlocAngajator(files_);
   for (const std::string& l : angajator_->Linii) {
     Scrie(l);
-    if (angajator_->Numarate) NumaraLinie(s_.Listare.LiniePagina);
+    if (angajator_->Numarate) NumaraLinie(listare_.LiniePagina);
   }
 
   Linie(U80);
@@ -259,8 +263,8 @@ void ListaFF1::ScrieFisa(FisaFF1& f, const TabelDed* ded, short nrPersoane) {
     Dependenti(*ded, nrPersoane);
   } else {
     // Into the shared Ded, as the sheet load fills it.
-    deduceri_.Incarca(s_.Fisa.CodCurent, s_.Fisa.Ded, s_.Fisa.NrPersoane);
-    Dependenti(s_.Fisa.Ded, s_.Fisa.NrPersoane);
+    deduceri_.Incarca(fisa_.CodCurent, fisa_.Ded, fisa_.NrPersoane);
+    Dependenti(fisa_.Ded, fisa_.NrPersoane);
   }
 
   SectiuneaV(f);
@@ -330,7 +334,7 @@ void ListaFF1::SectiuneaV(FisaFF1& f) {
 
 void ListaFF1::SectiuneaVI(FisaFF1& f) {
   Linie(" VI. DATE REFERITOARE LA REGULARIZAREA IMPOZITULUI");
-  if (s_.Parametri.DedLuna[12] == 0) {
+  if (parametri_.DedLuna[12] == 0) {
     // Not counted: each next sheet of such a listing starts 11 lines lower
     // on the printed page, as it always has.
     for (std::string_view eticheta : kEticheteScurteVI) Scrie(eticheta);

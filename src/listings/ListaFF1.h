@@ -15,14 +15,16 @@ namespace fisc {
 class Files;
 class LineWriter;
 struct FisaFF1;
-struct Stare;
+struct ParametriAn;
+struct FisaInLucru;
+struct StareListare;
 
 class ListaFF1 {
  public:
   // Writes into `out`, the listing file in hand. The signer's texts are those
   // of the listing screen (Dnupren, Dfunc) as they stand.
-  ListaFF1(const Files& files, LineWriter& out, Stare& stare, std::string_view semnatarNume,
-           std::string_view semnatarFunctie);
+  ListaFF1(const Files& files, LineWriter& out, const ParametriAn& parametri, FisaInLucru& fisa,
+           StareListare& listare, std::string_view semnatarNume, std::string_view semnatarFunctie);
 
   // One sheet from its FF1 record, with its dependants from Deduceri.txt.
   // CodCurent must hold the record's code.
@@ -53,13 +55,15 @@ class ListaFF1 {
 
   const Files& files_;
   LineWriter& out_;
-  Stare& s_;
+  const ParametriAn& parametri_;
+  FisaInLucru& fisa_;
+  StareListare& listare_;
   std::string nume_, functie_;
   short LiniiPagina = 65;
   bool paginat_ = true;
   std::optional<BlocAngajator> angajator_;
   IndexDeduceri deduceri_;
-  std::string fisa_;
+  std::string text_;
 };
 
 }  // namespace fisc

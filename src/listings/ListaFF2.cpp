@@ -1,8 +1,9 @@
 #include "listings/ListaFF2.h"
+#include "params/Cuantum.h"
+#include "sheets/FisaInLucru.h"
 
 #include <array>
 
-#include "app/Stare.h"
 #include "platform/Files.h"
 #include "records/CititorCampuri.h"
 #include "records/Numere.h"
@@ -21,26 +22,28 @@ constexpr std::array<std::string_view, 13> kLuni = {
 
 }  // namespace
 
-ListaFF2::ListaFF2(const Files& files, LineWriter& out, Stare& stare, std::string_view semnatarNume,
+ListaFF2::ListaFF2(const Files& files, LineWriter& out, const ParametriAn& parametri,
+                   StareListare& listare, std::string_view semnatarNume,
                    std::string_view semnatarFunctie)
     : files_(files),
       out_(out),
-      s_(stare),
+      parametri_(parametri),
+      listare_(listare),
       nume_(Majuscule(semnatarNume)),
       functie_(Majuscule(semnatarFunctie)) {}
 
 void ListaFF2::Linie(std::string_view text) {
   out_.Line(text);
-  NumaraLinie(s_.Listare.LiniePagina);
+  NumaraLinie(listare_.LiniePagina);
 }
 
 void ListaFF2::ListF2(std::string_view linie) {
-  s_.Listare.LiniePagina = 0;
+  listare_.LiniePagina = 0;
   LiniiPagina = 65;
   FisaFF2 f = CitesteFF2(linie);
-  Linie(LiniaExemplar(s_.Listare.Exemplar));
+  Linie(LiniaExemplar(listare_.Exemplar));
   ScrieFisa(f);
-  const short c = s_.Listare.LiniePagina;
+  const short c = listare_.LiniePagina;
   if (c >= 1 && c < LiniiPagina)
     for (int k = LiniiPagina - c; k > 0; --k) out_.Line("");
 }
@@ -60,7 +63,7 @@ void ListaFF2::ScrieFisa(FisaFF2& f) {
   Linie("");
   Linie("");
   Linie(U80);
-  Linie("                        FISA FISCALA 2  pentru anul " + s_.Parametri.AnFiscal);
+  Linie("                        FISA FISCALA 2  pentru anul " + parametri_.AnFiscal);
   Linie("   (pentru venituri din salarii altele decat cele de la functia de baza)");
   Linie(U80);
   Linie("                                                 Fisa fiscala rectificativa : " +
@@ -69,7 +72,7 @@ void ListaFF2::ScrieFisa(FisaFF2& f) {
   Linie(" I. DATE DE IDENTIFICARE ANGAJATOR");
   Linie(U80);
   if (!angajator_) angajator_ = CitesteBlocAngajator(files_);
-  ScrieBlocAngajator(*angajator_, out_, s_.Listare.LiniePagina);
+  ScrieBlocAngajator(*angajator_, out_, listare_.LiniePagina);
   Linie(U80);
   Linie(" II. DATE DE IDENTIFICARE ANGAJAT");
   Linie(U80);

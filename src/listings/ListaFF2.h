@@ -12,14 +12,15 @@ namespace fisc {
 class Files;
 class LineWriter;
 struct FisaFF2;
-struct Stare;
+struct ParametriAn;
+struct StareListare;
 
 class ListaFF2 {
  public:
   // Writes into `out`, the listing file in hand, with the signer's texts of
   // the listing screen as they stand.
-  ListaFF2(const Files& files, LineWriter& out, Stare& stare, std::string_view semnatarNume,
-           std::string_view semnatarFunctie);
+  ListaFF2(const Files& files, LineWriter& out, const ParametriAn& parametri, StareListare& listare,
+           std::string_view semnatarNume, std::string_view semnatarFunctie);
 
   // One sheet from its FF2 record.
   void ListF2(std::string_view linie);
@@ -33,7 +34,8 @@ class ListaFF2 {
 
   const Files& files_;
   LineWriter& out_;
-  Stare& s_;
+  const ParametriAn& parametri_;
+  StareListare& listare_;
   std::string nume_, functie_;
   short LiniiPagina = 65;
   std::optional<BlocAngajator> angajator_;

@@ -2,13 +2,13 @@
 
 #include <array>
 
-#include "sheets/Sortare.h"
 #include "listings/Cadru.h"
 #include "listings/Randuri.h"
 #include "platform/Files.h"
 #include "records/Numere.h"
 #include "sheets/FisiereSet.h"
 #include "sheets/RecordFF1.h"
+#include "sheets/Sortare.h"
 
 namespace fisc {
 

@@ -52,4 +52,6 @@ bool VerificaCF(std::string_view cod) {
   return rest.back() == padded.back();
 }
 
+bool PersoanaStraina(std::string_view cod) { return !cod.empty() && cod.front() == '9'; }
+
 }  // namespace fisc

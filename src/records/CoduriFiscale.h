@@ -13,4 +13,7 @@ bool VerificaCNP(std::string_view cod);
 // zeros. A code of 11 characters is run-time failure 5, caught by nobody.
 bool VerificaCF(std::string_view cod);
 
+// A code whose first character is 9: a foreign person, with no deductions.
+bool PersoanaStraina(std::string_view cod);
+
 }  // namespace fisc

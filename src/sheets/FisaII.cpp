@@ -1,6 +1,9 @@
 #include "sheets/FisaII.h"
+#include "params/Cuantum.h"
+#include "platform/Failure.h"
+#include "sheets/EcraneFise.h"
+#include "sheets/FisaInLucru.h"
 
-#include "app/Stare.h"
 #include "platform/Layout.h"
 #include "records/CititorCampuri.h"
 #include "records/CoduriFiscale.h"
@@ -10,11 +13,9 @@
 #include "sheets/FisiereSet.h"
 #include "sheets/FrmGasit.h"
 #include "sheets/ListaFise.h"
+#include "sheets/LuniActivitate.h"
 #include "sheets/RecordFF2.h"
 #include "sheets/Stocare.h"
-#include "tax/Conditii.h"
-#include "tax/Fisa1F.h"
-#include "tax/Fisa2.h"
 
 namespace fisc {
 
@@ -59,7 +60,8 @@ Control& FisaII::AdaugaAdresa(int i, std::string_view eticheta, int x, int y, in
   return c;
 }
 
-FisaII::FisaII(Desktop& desktop, Platforma& platforma, Stare& stare)
+FisaII::FisaII(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri,
+               FisaInLucru& fisa)
     : Form(desktop, "Fisa_II", "Date de identificare angajat"),
       AnFisc(Label(*this, "AnFisc", "", 560, 10, 80)),
       Option1(Add(ControlKind::OptionButton, "Option1").SetCaption("Fise noi").At(20, 44, 140, 22)),
@@ -98,7 +100,8 @@ FisaII::FisaII(Desktop& desktop, Platforma& platforma, Stare& stare)
       Command3(Button(*this, "Command3", "?", 590, 108, 30, 26).In(Frame1)),
       Command1(Button(*this, "Command1", "Ok", 590, 156, 70).In(Frame1)),
       p_(platforma),
-      s_(stare) {
+      parametri_(parametri),
+      fisa_(fisa) {
   SetSize(720, 640);
   Label(*this, "Label1", "II. Date de identificare angajat", 20, 10, 300);
   Label(*this, "Label2", "pentru anul fiscal", 400, 10, 150);
@@ -135,7 +138,7 @@ FisaII::FisaII(Desktop& desktop, Platforma& platforma, Stare& stare)
   Combo1.Click = [this] { AlegeDinLista(); };
   Command2.Click = [this] { p_.dialogs.Box(kAjutorLista, Buttons::Ok, Icon::None, ""); };
 
-  Xrectif.LostFocus = [this] { s_.Fisa.FlagRectif = Marca(Xrectif); };
+  Xrectif.LostFocus = [this] { fisa_.FlagRectif = Marca(Xrectif); };
   Xrectif.KeyPress = [this](int&) { CodS.SetFocus(); };
   CodS.GotFocus = [this] { IntrareCodS(); };
   CodS.LostFocus = [this] { IesireCodS(); };
@@ -194,9 +197,9 @@ FisaII::FisaII(Desktop& desktop, Platforma& platforma, Stare& stare)
   };
   Ok_Fisa2.Click = [this] { Ok_Fisa2_Click(); };
   but_sterg_fisa.Click = [this] {
-    FisaInLucru& f = s_.Fisa;
-    if (f.FisaIncarcata == 1) StergeFF1(p_.files, s_.Parametri.AnFiscal, f.CodCurent);
-    if (f.FisaIncarcata == 2) StergeFF2(p_.files, s_.Parametri.AnFiscal, f.CodCurent);
+    FisaInLucru& f = fisa_;
+    if (f.FisaIncarcata == 1) StergeFF1(p_.files, parametri_.AnFiscal, f.CodCurent);
+    if (f.FisaIncarcata == 2) StergeFF2(p_.files, parametri_.AnFiscal, f.CodCurent);
     GolesteAngajat();
   };
 
@@ -263,7 +266,7 @@ void FisaII::IntrareCodS() {
 }
 
 void FisaII::IesireCodS() {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   CodS.SetText(TextDin(Valoare(CodS.Text())));
   if (!VerificaCNP(CodS.Text())) {
     Warn(p_.dialogs, "Cod incorect", "  ");
@@ -282,7 +285,7 @@ void FisaII::IesireCodS() {
 // The look-up of CautaCod, keeping the lines it stops on: the load that
 // follows needs them, and each file is read once.
 void FisaII::CautaCodul(const std::string& cod) {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   gasite_.Cod = cod;
   gasite_.FF1 = GasesteLinia(p_.files, fisier::Ff1, cod);
   gasite_.FF2 = GasesteLinia(p_.files, fisier::Ff2, cod);
@@ -304,7 +307,7 @@ void FisaII::UmpleLista() {
 // A choice in the list loads the sheet at once; nothing here is guarded, so a
 // record that can't be read ends the program.
 void FisaII::AlegeDinLista() {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   if (Combo1.ListIndex() < 0) {
     Combo1.SetListIndex(0);
     return;
@@ -333,7 +336,7 @@ void FisaII::AlegeDinLista() {
     f.PersoanaCurenta = 1;
     Fisa1_F->ArataPersoana();
     Fisa1_F->ArataNrPersoane();
-    Fisa1_F->Text2.SetText(std::to_string(f.PersoanaCurenta));
+    Fisa1_F->ArataPersoanaCurenta(f.PersoanaCurenta);
   } else {
     but_sterg_fisa.SetCaption("Sterge fisa 2");
     f.FisaIncarcata = 2;
@@ -347,7 +350,7 @@ void FisaII::AlegeDinLista() {
 }
 
 std::size_t FisaII::IncarcaAntet(std::string_view record) {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   bool ff1 = f.FisierCurent == kFisierFF1;
   FisaFF1 fisa;
   std::size_t pozitie;
@@ -387,7 +390,7 @@ std::size_t FisaII::IncarcaAntet(std::string_view record) {
 // Every step goes on after a failure of the one before, with the one message
 // this load has for any of them.
 void FisaII::IncarcaDupaDecizie() {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   auto pas = [this](const auto& statement) {
     try {
       statement();
@@ -420,7 +423,7 @@ void FisaII::IncarcaDupaDecizie() {
     f.PersoanaCurenta = 1;
     pas([&] { Fisa1_F->ArataPersoana(); });
     Fisa1_F->ArataNrPersoane();
-    Fisa1_F->Text2.SetText(std::to_string(f.PersoanaCurenta));
+    Fisa1_F->ArataPersoanaCurenta(f.PersoanaCurenta);
   } else if (d == 2 || d == 6) {
     f.Pozitii[0] = 0;
     incarcaAntet(kFisierFF2, fisier::Ff2);
@@ -484,7 +487,7 @@ AntetFisa FisaII::Antet() const {
 // A date is typed zz/ll/aaaa within the fiscal year, and the end of the
 // activity can't come before its start. A refused date is emptied.
 void FisaII::IesireData(Control& camp) {
-  const std::string& an = s_.Parametri.AnFiscal;
+  const std::string& an = parametri_.AnFiscal;
   camp.SetText(NormalizeazaData(camp.Text()));
   const std::string& text = camp.Text();
   std::string mesaj;
@@ -514,8 +517,8 @@ void FisaII::IesireData(Control& camp) {
 }
 
 void FisaII::Command1_Click() {
-  FisaInLucru& f = s_.Fisa;
-  const ParametriAn& p = s_.Parametri;
+  FisaInLucru& f = fisa_;
+  const ParametriAn& p = parametri_;
   if (Valoare(CodS.Text()) == 0) {
     Warn(p_.dialogs, "Cod incorect", "  ");
     CodS.SetFocus();
@@ -533,8 +536,7 @@ void FisaII::Command1_Click() {
   f.FlagAlteS = Marca(XAlteS);
   f.FlagInv1 = Marca(Inv1A);
   f.FlagInv2 = Marca(Inv2A);
-  Fisa1_F->Inv1A.SetValue(Inv1A.Value());
-  Fisa1_F->Inv2A.SetValue(Inv2A.Value());
+  Fisa1_F->PreiaInvaliditatea(Inv1A.Value(), Inv2A.Value());
   f.LunaPrima = LunaPrimaActivitate(f.DataAngajarii, p.PrimaZi);
   f.LunaUltima = LunaUltimaActivitate(f.DataIncetarii, p.UltimaZi);
   Frame1.SetVisible(false);
@@ -550,10 +552,9 @@ void FisaII::Ok_Fisa2_Click() {
   }
   Frame1.SetVisible(false);
   Hide();
-  Fisa2->SetCaption("Fisa fiscala II - " + NumeS.Text() + " " + PrenS.Text() + ", cod numeric " +
-                    CodS.Text());
-  Fisa2->Show();
-  if (s_.Fisa.Pozitii[0] == 0) Fisa2->GolesteFF2();
+  Fisa2->Deschide("Fisa fiscala II - " + NumeS.Text() + " " + PrenS.Text() + ", cod numeric " +
+                  CodS.Text());
+  if (fisa_.Pozitii[0] == 0) Fisa2->GolesteFF2();
 }
 
 }  // namespace fisc

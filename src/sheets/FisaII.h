@@ -15,14 +15,15 @@
 
 namespace fisc {
 
-struct Stare;
-class Fisa1F;
-class Fisa2;
+struct ParametriAn;
+struct FisaInLucru;
+class EcranFF1;
+class EcranFF2;
 class FrmGasit;
 
 class FisaII : public Form {
  public:
-  FisaII(Desktop& desktop, Platforma& platforma, Stare& stare);
+  FisaII(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri, FisaInLucru& fisa);
 
   Control& AnFisc;
   Control& Option1;
@@ -55,8 +56,8 @@ class FisaII : public Form {
   Control& Command1;
 
   Form* Intro = nullptr;  // shown again when this screen closes
-  Fisa1F* Fisa1_F = nullptr;
-  fisc::Fisa2* Fisa2 = nullptr;
+  EcranFF1* Fisa1_F = nullptr;
+  EcranFF2* Fisa2 = nullptr;
   FrmGasit* frmGasit = nullptr;
 
   // Fills the head of a record into this screen: names, address, county,
@@ -86,7 +87,8 @@ class FisaII : public Form {
   Control& PrimulButonActiv();
 
   Platforma& p_;
-  Stare& s_;
+  const ParametriAn& parametri_;
+  FisaInLucru& fisa_;
   struct LiniiGasite {
     std::string Cod;
     LinieGasita FF1, FF2;

@@ -1,6 +1,7 @@
 #include "sheets/FrmGasit.h"
+#include "params/Cuantum.h"
+#include "sheets/FisaInLucru.h"
 
-#include "app/Stare.h"
 #include "platform/Layout.h"
 #include "sheets/FisaII.h"
 #include "sheets/Stocare.h"
@@ -44,12 +45,14 @@ constexpr Alegere kAlegeri[] = {
 
 }  // namespace
 
-FrmGasit::FrmGasit(Desktop& desktop, Platforma& platforma, Stare& stare)
+FrmGasit::FrmGasit(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri,
+                   FisaInLucru& fisa)
     : Form(desktop, "frmGasit", "Cod angajat existent !"),
       Label1(Label(*this, "Label1", "  Decizie :", 20, 16, 200)),
       but(Butoane(*this)),
       p_(platforma),
-      s_(stare) {
+      parametri_(parametri),
+      fisa_(fisa) {
   SetSize(420, 160);
   for (int k = 0; k < 4; ++k) but[static_cast<std::size_t>(k)]->Click = [this, k] { Apasa(k); };
   // The clerk must choose here before working elsewhere.
@@ -71,9 +74,9 @@ void FrmGasit::Arata(std::string_view gasit) {
 }
 
 void FrmGasit::Apasa(int k) {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   FisaII& ecran = *Fisa_II;
-  const std::string& an = s_.Parametri.AnFiscal;
+  const std::string& an = parametri_.AnFiscal;
   for (const Alegere& a : kAlegeri) {
     if (a.gasit != f.Gasit || a.buton != k) continue;
     f.Decizie = a.decizie;

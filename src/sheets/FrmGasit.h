@@ -9,12 +9,13 @@
 
 namespace fisc {
 
-struct Stare;
+struct ParametriAn;
+struct FisaInLucru;
 class FisaII;
 
 class FrmGasit : public Form {
  public:
-  FrmGasit(Desktop& desktop, Platforma& platforma, Stare& stare);
+  FrmGasit(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri, FisaInLucru& fisa);
 
   Control& Label1;
   std::array<Control*, 4> but{};
@@ -29,7 +30,8 @@ class FrmGasit : public Form {
   void Apasa(int k);
 
   Platforma& p_;
-  Stare& s_;
+  const ParametriAn& parametri_;
+  FisaInLucru& fisa_;
 };
 
 }  // namespace fisc

@@ -12,37 +12,11 @@ double NumarDin(std::string_view text, std::size_t from, std::size_t length) {
   return Valoare(text.substr(from - 1, length));
 }
 
-double Zi(std::string_view data) { return NumarDin(data, 1, 2); }
-double Luna(std::string_view data) { return NumarDin(data, 4, 2); }
-
 double CoefTabel(const std::array<std::string, 12>& tabel, int j) {
   return ValZecimal(tabel[static_cast<std::size_t>(j)]);
 }
 
 }  // namespace
-
-bool PersoanaStraina(std::string_view cod) { return !cod.empty() && cod.front() == '9'; }
-
-int LunaPrimaActivitate(std::string_view data, std::string_view primaZi) {
-  if (data.empty()) return 0;
-  if (Luna(data) == 1 && Zi(data) <= Valoare(primaZi)) return 0;
-  return static_cast<int>(Luna(data)) - 1;
-}
-
-int LunaUltimaActivitate(std::string_view data, std::string_view ultimaZi) {
-  if (data.empty()) return 11;
-  if (Luna(data) == 12 && Zi(data) >= Valoare(ultimaZi)) return 11;
-  return static_cast<int>(Luna(data)) - 1;
-}
-
-bool AnIntreg(std::string_view dataAngajarii, std::string_view dataIncetarii,
-              std::string_view primaZi, std::string_view ultimaZi) {
-  bool inceput =
-      dataAngajarii.empty() || (Luna(dataAngajarii) == 1 && Zi(dataAngajarii) <= Valoare(primaZi));
-  bool sfarsit = dataIncetarii.empty() ||
-                 (Luna(dataIncetarii) == 12 && Zi(dataIncetarii) >= Valoare(ultimaZi));
-  return inceput && sfarsit;
-}
 
 bool ConditiiNeindeplinite(const SituatieAngajat& s, const CoeficientiLuni& coefCalc,
                            const ParametriAn& p) {

@@ -5,21 +5,11 @@
 #include <string_view>
 
 #include "params/Cuantum.h"
+#include "records/CoduriFiscale.h"
+#include "sheets/LuniActivitate.h"
 #include "tax/Lanturi.h"
 
 namespace fisc {
-
-// A code whose first character is 9: a foreign person, with no deductions.
-bool PersoanaStraina(std::string_view cod);
-
-// The first month of activity, 0 to 11, from "zz/ll/aaaa": 0 for no date or
-// a start on the first days of January (day not above PrimaZi).
-int LunaPrimaActivitate(std::string_view dataAngajarii, std::string_view primaZi);
-// The last month, 11 for no date or an end on the last days of December.
-int LunaUltimaActivitate(std::string_view dataIncetarii, std::string_view ultimaZi);
-// Both of the above cover the year: the first condition of a regularisation.
-bool AnIntreg(std::string_view dataAngajarii, std::string_view dataIncetarii,
-              std::string_view primaZi, std::string_view ultimaZi);
 
 // What the regularisation looks at besides the figures.
 struct SituatieAngajat {

@@ -1,6 +1,5 @@
 #include "tax/Fisa1F.h"
 
-#include "app/Stare.h"
 #include "listings/Imagine.h"
 #include "params/Cuantum.h"
 #include "platform/Failure.h"
@@ -8,6 +7,7 @@
 #include "records/CititorCampuri.h"
 #include "records/Numere.h"
 #include "sheets/FisaII.h"
+#include "sheets/FisaInLucru.h"
 #include "sheets/RecordFF1.h"
 #include "sheets/Stocare.h"
 #include "tax/Impozit.h"
@@ -93,7 +93,8 @@ std::array<Control*, 2> Fisa1F::Optiuni() {
   return o;
 }
 
-Fisa1F::Fisa1F(Desktop& desktop, Platforma& platforma, Stare& stare)
+Fisa1F::Fisa1F(Desktop& desktop, Platforma& platforma, ParametriAn& parametri,
+               const TabelImpozit& impozitar, FisaInLucru& fisa, StareListare& listare)
     : Form(desktop, "Fisa1_F", "FISA FISCALA 1"),
       Command1(Button(*this, "Command1", "IV. &Deduceri  (A, B)", 10, 8, 150, 40)),
       Command2(Button(*this, "Command2", "IV. Deduceri  (C)", 165, 8, 150, 40)),
@@ -163,7 +164,10 @@ Fisa1F::Fisa1F(Desktop& desktop, Platforma& platforma, Stare& stare)
       Reg(Coloana<13>(Fisa1_V, ControlKind::TextBox, "Reg", 480, 36, 140, kRand, 12)),
       Command5(Button(*this, "Command5", "Terminat fisa F1", 700, 490, 200, 34).In(Fisa1_V)),
       p_(platforma),
-      s_(stare) {
+      parametri_(parametri),
+      impozitar_(impozitar),
+      fisa_(fisa),
+      listare_(listare) {
   SetSize(960, 606);
 
   // IV.A and IV.B: a month a row, own coefficient beside the total.
@@ -230,11 +234,11 @@ Fisa1F::Fisa1F(Desktop& desktop, Platforma& platforma, Stare& stare)
   Command10.SetEnabled(false);
 
   // The sheet as it will print, from the screen, before any save.
-  Command10.Click = [this] { ImagineFF1(p_, s_, FisaDinEcran()); };
+  Command10.Click = [this] { ImagineFF1(p_, parametri_, fisa_, listare_, FisaDinEcran()); };
   // The tables come with their editors. The deductions are read afresh
   // before they are viewed, and from then on the sheet works with them.
   Command14.Click = [] {};
-  Command15.Click = [this] { IncarcaCuantum(p_.files, s_.Parametri); };
+  Command15.Click = [this] { IncarcaCuantum(p_.files, parametri_); };
 
   Command1.Click = [this] { ArataDoar(Fisa1_III); };
   Command2.Click = [this] { Command2_Click(); };
@@ -254,7 +258,7 @@ void Fisa1F::ArataDoar(Control& frame) {
 }
 
 bool Fisa1F::FaraDeduceri() const {
-  return s_.Fisa.FlagDedu == "X" || PersoanaStraina(s_.Fisa.CodCurent);
+  return fisa_.FlagDedu == "X" || PersoanaStraina(fisa_.CodCurent);
 }
 
 CoeficientiLuni Fisa1F::Coeficienti() const {
@@ -263,14 +267,21 @@ CoeficientiLuni Fisa1F::Coeficienti() const {
   return c;
 }
 
+void Fisa1F::ArataPersoanaCurenta(short persoana) { Text2.SetText(std::to_string(persoana)); }
+
+void Fisa1F::PreiaInvaliditatea(int inv1, int inv2) {
+  Inv1A.SetValue(inv1);
+  Inv2A.SetValue(inv2);
+}
+
 void Fisa1F::ArataNrPersoane() {
-  std::string text = "Sunt inregistrate " + std::to_string(s_.Fisa.NrPersoane) + " persoane";
+  std::string text = "Sunt inregistrate " + std::to_string(fisa_.NrPersoane) + " persoane";
   for (Control* c : {&Ok_PersU, &Ok_persA, &Ok_StergP}) c->SetToolTip(text);
 }
 
 void Fisa1F::Deschide(std::string_view nume, std::string_view prenume) {
-  FisaInLucru& f = s_.Fisa;
-  const ParametriAn& p = s_.Parametri;
+  FisaInLucru& f = fisa_;
+  const ParametriAn& p = parametri_;
   SetCaption("Fisa fiscala I - " + std::string(nume) + " " + std::string(prenume) +
              ", cod numeric " + f.CodCurent);
   Show();
@@ -296,7 +307,7 @@ void Fisa1F::Deschide(std::string_view nume, std::string_view prenume) {
     Camp(Bif, i).SetVisible(true);
     short luna = static_cast<short>(i + 1);
     double venit = Valoare(Camp(VenitN, i).Text());
-    double impozit = ImpozitLuna(luna, venit, s_.Impozitar);
+    double impozit = ImpozitLuna(luna, venit, impozitar_);
     Camp(ImpP, i).SetText(TextDin(impozit));
     venituri += ValZecimal(Camp(VenitN, i).Text());
     impC += ValZecimal(Camp(ImpC, i).Text());
@@ -390,7 +401,7 @@ void Fisa1F::IncarcaFF1(std::string_view record, std::size_t pozitie) {
 }
 
 void Fisa1F::ArataPersoana() {
-  const FisaInLucru& f = s_.Fisa;
+  const FisaInLucru& f = fisa_;
   int rand = f.PersoanaCurenta;
   CodI.SetText(f.Ded(rand, ded::CodI));
   NumeI.SetText(f.Ded(rand, ded::NumeI));
@@ -421,13 +432,13 @@ void Fisa1F::GolesteFF1() {
   // Clearing a mark is a click: a row it had copied takes 0.
   for (Control* c : Bif) c->SetValue(0);
   for (Control* c : Reg) c->SetText("");
-  s_.Fisa.PersoanaCurenta = 1;
-  s_.Fisa.NrPersoane = 0;
-  s_.Fisa.Ded.Goleste();
+  fisa_.PersoanaCurenta = 1;
+  fisa_.NrPersoane = 0;
+  fisa_.Ded.Goleste();
 }
 
 FisaFF1 Fisa1F::FisaDinEcran() const {
-  const FisaInLucru& f = s_.Fisa;
+  const FisaInLucru& f = fisa_;
   FisaFF1 r;
   r.Antet = Fisa_II->Antet();
   r.FlagRectif = f.FlagRectif;
@@ -453,8 +464,8 @@ FisaFF1 Fisa1F::FisaDinEcran() const {
 }
 
 void Fisa1F::SalveazaFF1() {
-  const FisaInLucru& f = s_.Fisa;
-  fisc::SalveazaFF1(p_.files, s_.Parametri.AnFiscal, f.CodCurent, RecordFF1(FisaDinEcran()),
+  const FisaInLucru& f = fisa_;
+  fisc::SalveazaFF1(p_.files, parametri_.AnFiscal, f.CodCurent, RecordFF1(FisaDinEcran()),
                     f.Pozitii[1], f.Ded, f.NrPersoane);
 }
 

@@ -8,21 +8,26 @@
 #include <string>
 #include <string_view>
 
+#include "params/Impozitar.h"
 #include "platform/Failure.h"
 #include "platform/Form.h"
 #include "platform/Platforma.h"
+#include "sheets/EcraneFise.h"
 #include "sheets/RecordFF1.h"
 #include "tax/Conditii.h"
 #include "tax/Lanturi.h"
 
 namespace fisc {
 
-struct Stare;
+struct ParametriAn;
+struct FisaInLucru;
+struct StareListare;
 class FisaII;
 
-class Fisa1F : public Form {
+class Fisa1F : public Form, public EcranFF1 {
  public:
-  Fisa1F(Desktop& desktop, Platforma& platforma, Stare& stare);
+  Fisa1F(Desktop& desktop, Platforma& platforma, ParametriAn& parametri,
+         const TabelImpozit& impozitar, FisaInLucru& fisa, StareListare& listare);
 
   // The buttons that change frames, and the tools beside them.
   Control& Command1;
@@ -88,14 +93,16 @@ class Fisa1F : public Form {
   // Steps of the employee screen's Command1 from the showing of this screen
   // on: the months of activity, the first taxes, and the coefficients of a
   // new or an existing sheet.
-  void Deschide(std::string_view nume, std::string_view prenume);
+  void Deschide(std::string_view nume, std::string_view prenume) override;
 
   // The body of an FF1 record from `pozitie`, the position after field 22.
-  void IncarcaFF1(std::string_view record, std::size_t pozitie);
+  void IncarcaFF1(std::string_view record, std::size_t pozitie) override;
   // Shows row PersoanaCurenta of Ded.
-  void ArataPersoana();
+  void ArataPersoana() override;
   // The tool tips of the person buttons: how many persons there are.
-  void ArataNrPersoane();
+  void ArataNrPersoane() override;
+  void ArataPersoanaCurenta(short persoana) override;
+  void PreiaInvaliditatea(int inv1, int inv2) override;
   void GolesteFF1();
   // Writes the sheet on the screen and its dependants to the files.
   void SalveazaFF1();
@@ -166,7 +173,10 @@ class Fisa1F : public Form {
   bool FaraDeduceri() const;
 
   Platforma& p_;
-  Stare& s_;
+  ParametriAn& parametri_;
+  const TabelImpozit& impozitar_;
+  FisaInLucru& fisa_;
+  StareListare& listare_;
   std::string modPers_;  // "D" while the shown person is new, else "N"
 };
 

@@ -1,8 +1,9 @@
 // IV.A and IV.B of the FF1 screen: the employee's own coefficient of each
 // month, the month's total with the dependants, and the filling of a
 // dependant's months from the table ("Preiau conditii", "Anulez conditii").
-#include "app/Stare.h"
+#include "params/Cuantum.h"
 #include "records/Numere.h"
+#include "sheets/FisaInLucru.h"
 #include "tax/Fisa1F.h"
 
 namespace fisc {
@@ -37,7 +38,7 @@ void Fisa1F::LeagaCoeficienti() {
     c.LostFocus = [this, i] { IesireCoefProp(i); };
     c.KeyPress = [this, i](int& key) {
       if (key != kKeyEnter) return;
-      if (i < s_.Fisa.LunaUltima)
+      if (i < fisa_.LunaUltima)
         Camp(CoefProp, i + 1).SetFocus();
       else
         Command9.SetFocus();
@@ -52,7 +53,7 @@ void Fisa1F::LeagaCoeficienti() {
 }
 
 double Fisa1F::SumaPersoane(int luna) const {
-  const FisaInLucru& f = s_.Fisa;
+  const FisaInLucru& f = fisa_;
   double suma = 0;
   for (int rand = 1; rand <= f.NrPersoane; ++rand)
     suma += ValZecimal(f.Ded(rand, ded::CoefI + luna));
@@ -65,7 +66,7 @@ std::string Fisa1F::CoefTotal(int luna) const {
 
 // One month at 1 plus an invalidity's coefficient is enough to mark the employee.
 void Fisa1F::MarciInvaliditateAngajat() {
-  const ParametriAn& p = s_.Parametri;
+  const ParametriAn& p = parametri_;
   Inv1A.SetValue(0);
   Inv2A.SetValue(0);
   for (Control* c : CoefProp) {
@@ -73,12 +74,12 @@ void Fisa1F::MarciInvaliditateAngajat() {
     if (coef == 1 + ValZecimal(p.CoefInv1)) Inv1A.SetValue(1);
     if (coef == 1 + ValZecimal(p.CoefInv2)) Inv2A.SetValue(1);
   }
-  s_.Fisa.FlagInv1 = Marca(Inv1A);
-  s_.Fisa.FlagInv2 = Marca(Inv2A);
+  fisa_.FlagInv1 = Marca(Inv1A);
+  fisa_.FlagInv2 = Marca(Inv2A);
 }
 
 void Fisa1F::IesireCoefProp(int i) {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   Control& c = Camp(CoefProp, i);
   c.SetText(TextZecimal(c.Text()));
   if (f.FlagDedu == "X") {
@@ -87,7 +88,7 @@ void Fisa1F::IesireCoefProp(int i) {
     return;
   }
   double coef = ValZecimal(c.Text());
-  if (!CoefPropPermis(coef, s_.Parametri)) {
+  if (!CoefPropPermis(coef, parametri_)) {
     Warn(p_.dialogs, "Coeficient gresit", " ");
     c.SetText("");
     coef = 0;
@@ -108,7 +109,7 @@ void Fisa1F::IesireCoefProp(int i) {
 }
 
 void Fisa1F::calc_coef() {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   for (int luna = 0; luna < 12; ++luna)
     f.Ded(f.PersoanaCurenta, ded::CoefI + luna) = TextZecimal(Camp(CoefI, luna).Text());
   for (int luna = 0; luna < 12; ++luna) Camp(CoefCalc, luna).SetText(CoefTotal(luna));
@@ -122,8 +123,8 @@ CalitatePersoana Fisa1F::Calitate() const {
 // 1 "Preiau conditii" fills the months from the table by the person's marks
 // and age; 0 "Anulez conditii" frees the marks to be set again.
 void Fisa1F::Conditii(int alegere) {
-  FisaInLucru& f = s_.Fisa;
-  const ParametriAn& p = s_.Parametri;
+  FisaInLucru& f = fisa_;
+  const ParametriAn& p = parametri_;
   for (Control* c : CoefI) c->SetText("");
   int rand = f.PersoanaCurenta;
   int varsta = Varsta(CodI.Text(), p.AnFiscal);

@@ -3,10 +3,11 @@
 // person first.
 #include <cstdio>
 
-#include "app/Stare.h"
+#include "params/Cuantum.h"
 #include "records/CititorCampuri.h"
 #include "records/CoduriFiscale.h"
 #include "records/Numere.h"
+#include "sheets/FisaInLucru.h"
 #include "tax/Fisa1F.h"
 
 namespace fisc {
@@ -43,7 +44,7 @@ void Fisa1F::LeagaPersoane() {
     };
     c->LostFocus = [this, c, coloanaNume] {
       c->SetText(Majuscule(c->Text()));
-      if (AreCod(CodI)) s_.Fisa.Ded(s_.Fisa.PersoanaCurenta, coloanaNume) = c->Text();
+      if (AreCod(CodI)) fisa_.Ded(fisa_.PersoanaCurenta, coloanaNume) = c->Text();
     };
     ++coloanaNume;
   }
@@ -70,7 +71,7 @@ void Fisa1F::LeagaPersoane() {
     };
     c->LostFocus = [this, c, coloana, invaliditate] {
       if (!AreCod(CodI)) return;
-      FisaInLucru& f = s_.Fisa;
+      FisaInLucru& f = fisa_;
       if (invaliditate) {
         if (Sotie.Value() || Copil.Value() || Alta.Value())
           f.Ded(f.PersoanaCurenta, coloana) = Marca(*c);
@@ -78,7 +79,7 @@ void Fisa1F::LeagaPersoane() {
       }
       if (c == &Copil) {
         // A child's mark follows the age: over 18 he counts as another person.
-        int varsta = Varsta(CodI.Text(), s_.Parametri.AnFiscal);
+        int varsta = Varsta(CodI.Text(), parametri_.AnFiscal);
         if (Copil.Value()) {
           if (varsta > 18) {
             Copil.SetValue(0);
@@ -107,7 +108,7 @@ void Fisa1F::LeagaPersoane() {
     c.LostFocus = [this, i] { IesireCoefI(i); };
     c.KeyPress = [this, i](int& key) {
       if (key != kKeyEnter) return;
-      if (i < s_.Fisa.LunaUltima)
+      if (i < fisa_.LunaUltima)
         Camp(CoefI, i + 1).SetFocus();
       else
         Ok_PersU.SetFocus();
@@ -126,19 +127,19 @@ void Fisa1F::ArataVarsta() {
     Label34.SetCaption("");
     return;
   }
-  Label34.SetCaption("(Varsta = " + std::to_string(Varsta(CodI.Text(), s_.Parametri.AnFiscal)) +
+  Label34.SetCaption("(Varsta = " + std::to_string(Varsta(CodI.Text(), parametri_.AnFiscal)) +
                      " ani)");
 }
 
 void Fisa1F::IntrareCodI() {
-  const FisaInLucru& f = s_.Fisa;
+  const FisaInLucru& f = fisa_;
   modPers_ = f.NrPersoane < f.PersoanaCurenta ? "D" : "N";
   MarciPersoana(modPers_ == "D");
   StingeConditii();
 }
 
 void Fisa1F::IesireCodI() {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   CodI.SetText(TextDin(Valoare(CodI.Text())));
   if (!AreCod(CodI)) return;
   const std::string& cod = CodI.Text();
@@ -165,7 +166,7 @@ void Fisa1F::IesireCodI() {
   f.NrPersoane = CheckedShort(f.NrPersoane + 1);
   ArataNrPersoane();
   Ok_StergP.SetEnabled(true);
-  int varsta = Varsta(cod, s_.Parametri.AnFiscal);
+  int varsta = Varsta(cod, parametri_.AnFiscal);
   if (varsta <= 18) Copil.SetValue(1);
   if (varsta >= 18) Alta.SetValue(1);
   f.Ded(f.PersoanaCurenta, ded::Copil) = Marca(Copil);
@@ -173,8 +174,8 @@ void Fisa1F::IesireCodI() {
 }
 
 void Fisa1F::IesireCoefI(int i) {
-  FisaInLucru& f = s_.Fisa;
-  const ParametriAn& p = s_.Parametri;
+  FisaInLucru& f = fisa_;
+  const ParametriAn& p = parametri_;
   Control& c = Camp(CoefI, i);
   c.SetText(TextZecimal(c.Text()));
   if (!AreCod(CodI) || (!Sotie.Value() && !Copil.Value() && !Alta.Value())) return;
@@ -226,7 +227,7 @@ bool Fisa1F::VerificaPersoana() {
 }
 
 void Fisa1F::Ok_persA_Click() {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   if (!VerificaPersoana()) return;
   if (f.NrPersoane != 0) MarciPersoana(false);
   StingeConditii();
@@ -237,7 +238,7 @@ void Fisa1F::Ok_persA_Click() {
 }
 
 void Fisa1F::Ok_PersU_Click() {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   if (!VerificaPersoana()) return;
   if (f.PersoanaCurenta >= f.NrPersoane) {
     // An untouched empty row is not skipped; the table ends at row 20.
@@ -263,7 +264,7 @@ void Fisa1F::Ok_PersU_Click() {
 }
 
 void Fisa1F::Ok_StergP_Click() {
-  FisaInLucru& f = s_.Fisa;
+  FisaInLucru& f = fisa_;
   if (!AskYesNo(p_.dialogs, "Doriti sa stergeti persoana ?", "")) return;
   int rand = f.PersoanaCurenta;
   for (int i = f.LunaPrima; i <= f.LunaUltima; ++i) {
@@ -286,7 +287,7 @@ void Fisa1F::Ok_StergP_Click() {
 }
 
 void Fisa1F::Command2_Click() {
-  const FisaInLucru& f = s_.Fisa;
+  const FisaInLucru& f = fisa_;
   ArataDoar(Fisa1_IIIC);
   MarciPersoana(f.NrPersoane == 0);
   StingeConditii();

@@ -1,10 +1,11 @@
 // VI to VIII of the FF1 screen: the regularisation, computed afresh each time
 // from the screen, the income with final taxation and the exempt income, and
 // the end of the sheet.
-#include "app/Stare.h"
+#include "params/Cuantum.h"
 #include "records/CititorCampuri.h"
 #include "records/Numere.h"
 #include "sheets/FisaII.h"
+#include "sheets/FisaInLucru.h"
 #include "tax/Fisa1F.h"
 
 namespace fisc {
@@ -30,7 +31,7 @@ void Fisa1F::LeagaRegularizare() {
     c.LostFocus = [this, i] {
       Control& camp = Camp(Reg, i);
       camp.SetText(TextDin(Rotunjeste(Valoare(camp.Text()))));
-      if (i == 10) Reg[11]->SetText(TextDin(ImpozitFinal(Valoare(camp.Text()), s_.Parametri)));
+      if (i == 10) Reg[11]->SetText(TextDin(ImpozitFinal(Valoare(camp.Text()), parametri_)));
     };
     c.KeyPress = [this, i](int& key) {
       if (key != kKeyEnter) return;
@@ -44,8 +45,8 @@ void Fisa1F::LeagaRegularizare() {
 }
 
 void Fisa1F::Command4_Click() {
-  FisaInLucru& f = s_.Fisa;
-  const ParametriAn& p = s_.Parametri;
+  FisaInLucru& f = fisa_;
+  const ParametriAn& p = parametri_;
   ArataDoar(Fisa1_V);
   Command10.SetEnabled(true);
   // Without the year's deduction nothing can be tested.
@@ -78,7 +79,7 @@ void Fisa1F::Command4_Click() {
     date.Luni = Valoare(Luni.Text());
     date.ImpCTotal = Valoare(ImpC[13]->Text());
     date.CoefCalc = coef;
-    Regularizare r = CalculeazaRegularizare(date, p, s_.Impozitar);
+    Regularizare r = CalculeazaRegularizare(date, p, impozitar_);
     if (r.Luni != date.Luni) Luni.SetText(TextDin(r.Luni));
     for (std::size_t i = 0; i < 10; ++i) Reg[i]->SetText(TextDin(r.Reg[i]));
   } else {

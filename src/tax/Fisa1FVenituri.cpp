@@ -2,9 +2,10 @@
 // tax the table proposes beside them, and the professional expenses.
 #include <cmath>
 
-#include "app/Stare.h"
+#include "params/Cuantum.h"
 #include "platform/Failure.h"
 #include "records/Numere.h"
+#include "sheets/FisaInLucru.h"
 #include "tax/Fisa1F.h"
 
 namespace fisc {
@@ -27,7 +28,7 @@ void Fisa1F::LeagaVenituri() {
     Camp(VenitN, i).LostFocus = [this, i] { IesireVenit(i); };
     Camp(VenitN, i).KeyPress = [this, i](int& key) {
       if (key != kKeyEnter) return;
-      int ultima = s_.Fisa.LunaUltima;
+      int ultima = fisa_.LunaUltima;
       if (i == 12)
         LuPrima.SetFocus();
       else if (i < ultima)
@@ -43,7 +44,7 @@ void Fisa1F::LeagaVenituri() {
           Command8.SetFocus();
         else
           Luni.SetFocus();
-      } else if (i == s_.Fisa.LunaUltima) {
+      } else if (i == fisa_.LunaUltima) {
         ImpC[12]->SetFocus();
       } else if (i < 12) {
         Camp(ImpC, i + 1).SetFocus();
@@ -58,7 +59,7 @@ void Fisa1F::LeagaVenituri() {
     };
     bif.KeyPress = [this, i](int& key) {
       if (key != kKeyEnter) return;
-      if (i < s_.Fisa.LunaUltima)
+      if (i < fisa_.LunaUltima)
         Camp(Bif, i + 1).SetFocus();
       else if (FaraDeduceri())
         Command8.SetFocus();
@@ -72,10 +73,10 @@ void Fisa1F::LeagaVenituri() {
     if (key != kKeyEnter) return;
     // Only the domicile mark skips the marks column: a foreign person's
     // sheet walks on down it.
-    if (s_.Fisa.FlagDedu == "X")
+    if (fisa_.FlagDedu == "X")
       Command8.SetFocus();
     else
-      Camp(Bif, s_.Fisa.LunaPrima).SetFocus();
+      Camp(Bif, fisa_.LunaPrima).SetFocus();
   };
   Luni.LostFocus = [this] { IesireLuni(); };
   Luni.KeyPress = [this](int& key) {
@@ -100,7 +101,7 @@ void Fisa1F::LeagaVenituri() {
 
 double Fisa1F::ImpozitPrimaEcran() const {
   short luna = CheckedShort(static_cast<long>(Rotunjeste(Valoare(LuPrima.Text()))));
-  return ImpozitPrima(luna, Valoare(VenitN[12]->Text()), s_.Impozitar);
+  return ImpozitPrima(luna, Valoare(VenitN[12]->Text()), impozitar_);
 }
 
 void Fisa1F::SumeazaVenitImpP() {
@@ -115,7 +116,7 @@ void Fisa1F::IesireVenit(int i) {
   venit.SetText(Intreg(venit));
   if (i < 12)
     Camp(ImpP, i).SetText(TextDin(ImpozitPropusLuna(
-        i, Valoare(venit.Text()), Camp(CoefCalc, i).Text(), s_.Parametri, s_.Impozitar)));
+        i, Valoare(venit.Text()), Camp(CoefCalc, i).Text(), parametri_, impozitar_)));
   else if (i == 12)
     ImpP[12]->SetText(TextDin(ImpozitPrimaEcran()));
   SumeazaVenitImpP();
@@ -160,8 +161,8 @@ void Fisa1F::Command3_Click() {
   ArataDoar(Fisa1_IV);
   double total = 0;
   for (int i = 0; i < 12; ++i) {
-    double impozit = ImpozitPropusLunaNerotunjit(
-        i, Valoare(Camp(VenitN, i).Text()), Camp(CoefCalc, i).Text(), s_.Parametri, s_.Impozitar);
+    double impozit = ImpozitPropusLunaNerotunjit(i, Valoare(Camp(VenitN, i).Text()),
+                                                 Camp(CoefCalc, i).Text(), parametri_, impozitar_);
     Camp(ImpP, i).SetText(TextDin(impozit));
     total += impozit;
   }
@@ -169,11 +170,11 @@ void Fisa1F::Command3_Click() {
   ImpP[13]->SetText(TextDin(total));
   // The expenses are proposed once: a Luni already filled protects both.
   if (!FaraDeduceri() && Valoare(Luni.Text()) == 0) {
-    CheltuieliPropuse propuse = PropuneCheltuieli(Coeficienti(), s_.Parametri);
+    CheltuieliPropuse propuse = PropuneCheltuieli(Coeficienti(), parametri_);
     Luni.SetText(std::to_string(propuse.Luni));
     ChAc.SetText(TextDin(propuse.ChAc));
   }
-  Camp(VenitN, s_.Fisa.LunaPrima).SetFocus();
+  Camp(VenitN, fisa_.LunaPrima).SetFocus();
 }
 
 }  // namespace fisc

@@ -1,6 +1,7 @@
 #include "tax/Fisa2.h"
+#include "params/Cuantum.h"
+#include "sheets/FisaInLucru.h"
 
-#include "app/Stare.h"
 #include "listings/Imagine.h"
 #include "platform/Layout.h"
 #include "records/Numere.h"
@@ -51,7 +52,8 @@ std::array<Control*, 13> Coloana(Form& f, const std::string& name, int x) {
 
 }  // namespace
 
-Fisa2::Fisa2(Desktop& desktop, Platforma& platforma, Stare& stare)
+Fisa2::Fisa2(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri,
+             const TabelImpozit& impozitar, FisaInLucru& fisa, StareListare& listare)
     : Form(desktop, "Fisa2", "FISA FISCALA 2"),
       Frame1(Add(ControlKind::Frame, "Frame1").SetCaption("Tip venit").At(20, 10, 680, 60)),
       TAS(Tipuri(*this, Frame1)),
@@ -64,7 +66,10 @@ Fisa2::Fisa2(Desktop& desktop, Platforma& platforma, Stare& stare)
       Command10(Button(*this, "Command10", "Imagine     fisa", 530, 228, 170, 40)),
       Picture1(Button(*this, "Picture1", "Calculator", 530, 276, 170)),
       p_(platforma),
-      s_(stare) {
+      parametri_(parametri),
+      impozitar_(impozitar),
+      fisa_(fisa),
+      listare_(listare) {
   SetSize(720, 460);
   Label(*this, "EtLuna", "Luna", 20, 82, 140);
   Label(*this, "EtVenitCS", "Venit baza de calcul", 170, 82, 150);
@@ -101,7 +106,7 @@ Fisa2::Fisa2(Desktop& desktop, Platforma& platforma, Stare& stare)
   Command3.Click = [this] { Warn(p_.dialogs, kTipuri); };
   // The tax table comes with its editor.
   Command2.Click = [] {};
-  Command10.Click = [this] { ImagineFF2(p_, s_, FisaDinEcran()); };
+  Command10.Click = [this] { ImagineFF2(p_, parametri_, listare_, FisaDinEcran()); };
   Picture1.Click = [this] { p_.launcher.Start("calc.exe", ""); };
   Closing = [this](bool&) { Inchide(); };
 }
@@ -113,7 +118,7 @@ void Fisa2::IesireVenit(int i) {
     // The amount typed is the base: no deduction, no coefficient.
     short luna = static_cast<short>(i + 1);
     double baza = Valoare(venit.Text());
-    ImpS[static_cast<std::size_t>(i)]->SetText(TextDin(ImpozitLuna(luna, baza, s_.Impozitar)));
+    ImpS[static_cast<std::size_t>(i)]->SetText(TextDin(ImpozitLuna(luna, baza, impozitar_)));
   }
   Sumeaza();
 }
@@ -161,6 +166,11 @@ void Fisa2::IncarcaFF2(std::string_view record, std::size_t pozitie) {
   }
 }
 
+void Fisa2::Deschide(std::string_view caption) {
+  SetCaption(caption);
+  Show();
+}
+
 void Fisa2::GolesteFF2() {
   for (Control* c : TAS) c->SetValue(0);
   for (std::size_t i = 0; i < 13; ++i) {
@@ -183,8 +193,8 @@ FisaFF2 Fisa2::FisaDinEcran() const {
 }
 
 void Fisa2::SalveazaFF2() {
-  const FisaInLucru& f = s_.Fisa;
-  fisc::SalveazaFF2(p_.files, s_.Parametri.AnFiscal, f.CodCurent, RecordFF2(FisaDinEcran()),
+  const FisaInLucru& f = fisa_;
+  fisc::SalveazaFF2(p_.files, parametri_.AnFiscal, f.CodCurent, RecordFF2(FisaDinEcran()),
                     f.Pozitii[0]);
 }
 

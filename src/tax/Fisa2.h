@@ -5,18 +5,23 @@
 #include <cstddef>
 #include <string_view>
 
+#include "params/Impozitar.h"
 #include "platform/Form.h"
 #include "platform/Platforma.h"
+#include "sheets/EcraneFise.h"
 #include "sheets/RecordFF2.h"
 
 namespace fisc {
 
-struct Stare;
+struct ParametriAn;
+struct FisaInLucru;
+struct StareListare;
 class FisaII;
 
-class Fisa2 : public Form {
+class Fisa2 : public Form, public EcranFF2 {
  public:
-  Fisa2(Desktop& desktop, Platforma& platforma, Stare& stare);
+  Fisa2(Desktop& desktop, Platforma& platforma, const ParametriAn& parametri,
+        const TabelImpozit& impozitar, FisaInLucru& fisa, StareListare& listare);
 
   Control& Frame1;
   std::array<Control*, 8> TAS{};  // "AS1" to "AS8"
@@ -32,8 +37,9 @@ class Fisa2 : public Form {
   FisaII* Fisa_II = nullptr;
 
   // The body of an FF2 record from `pozitie`, the position after field 14.
-  void IncarcaFF2(std::string_view record, std::size_t pozitie);
-  void GolesteFF2();
+  void IncarcaFF2(std::string_view record, std::size_t pozitie) override;
+  void GolesteFF2() override;
+  void Deschide(std::string_view caption) override;
   void SalveazaFF2();
   // The sheet as the screen holds it, with the head of the employee screen.
   FisaFF2 FisaDinEcran() const;
@@ -46,7 +52,10 @@ class Fisa2 : public Form {
   void Inchide();
 
   Platforma& p_;
-  Stare& s_;
+  const ParametriAn& parametri_;
+  const TabelImpozit& impozitar_;
+  FisaInLucru& fisa_;
+  StareListare& listare_;
 };
 
 }  // namespace fisc

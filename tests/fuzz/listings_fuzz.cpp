@@ -4,17 +4,19 @@
 // verification keeps it out of the files of a run.
 #include <memory>
 
-#include "app/Stare.h"
 #include "fuzz/FuzzSupport.h"
 #include "listings/Borderou.h"
+#include "listings/Cadru.h"
 #include "listings/Centralizator.h"
 #include "listings/ListaFF1.h"
 #include "listings/ListaFF2.h"
 #include "listings/Tabel5.h"
+#include "params/Cuantum.h"
 #include "platform/Desktop.h"
 #include "platform/Failure.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "sheets/FisaInLucru.h"
 #include "sheets/RecordAngajator.h"
 #include "sheets/RecordDed.h"
 #include "sheets/RecordFF1.h"
@@ -81,22 +83,24 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::ScrieFisier("Repfisc.txt", repfisc);
 
   Files files(fuzz::Director());
-  Stare s;
-  s.Parametri.AnFiscal = "2002";
-  s.Parametri.DedLuna[12] = 1600000;
-  s.Listare.Exemplar = "angajat";
+  ParametriAn parametri;
+  parametri.AnFiscal = "2002";
+  parametri.DedLuna[12] = 1600000;
+  FisaInLucru fisa;
+  StareListare stare;
+  stare.Exemplar = "angajat";
   Incearca([&] {
     LineWriter out = files.Write("ListF1.txt");
-    ListaFF1 lista(files, out, s, "NUME", "FUNCTIE");
+    ListaFF1 lista(files, out, parametri, fisa, stare, "NUME", "FUNCTIE");
     for (const std::string& r : sheets1) {
-      s.Fisa.CodCurent = r.substr(0, r.find(','));
+      fisa.CodCurent = r.substr(0, r.find(','));
       lista.ListF1(r);
     }
     out.Close();
   });
   Incearca([&] {
     LineWriter out = files.Write("ListF2.txt");
-    ListaFF2 lista(files, out, s, "NUME", "FUNCTIE");
+    ListaFF2 lista(files, out, parametri, stare, "NUME", "FUNCTIE");
     for (const std::string& r : sheets2) lista.ListF2(r);
     out.Close();
   });

@@ -1,0 +1,63 @@
+# The layers of the program, lowest first. A file may include headers of its
+# own folder and of the folders listed for it, nothing else: every edge of
+# the include graph points down this table. Run as a test:
+#   cmake -DSOURCE_DIR=src -P cmake/CheckLayers.cmake
+# It prints the folder-to-folder include listing, then every include that
+# breaks the table, and fails when there is one.
+set(LOWER_platform "")
+set(LOWER_platform/headless platform)
+set(LOWER_records platform)
+set(LOWER_params platform records)
+set(LOWER_sheets platform records params)
+set(LOWER_listings platform records params sheets)
+set(LOWER_tax platform records params sheets listings)
+set(LOWER_verify platform records params sheets listings tax)
+set(LOWER_yearops platform records params sheets listings tax)
+set(LOWER_transfer platform records params sheets)
+set(LOWER_app platform records params sheets listings tax verify yearops)
+set(LOWER_replay platform platform/headless records params sheets listings tax verify yearops app)
+set(LOWER_platform/qt platform records params sheets listings tax verify yearops app)
+set(FOLDERS platform platform/headless platform/qt records params sheets listings tax verify
+            yearops transfer app replay)
+
+if(NOT SOURCE_DIR)
+  message(FATAL_ERROR "SOURCE_DIR is not set")
+endif()
+
+set(broken 0)
+foreach(folder IN LISTS FOLDERS)
+  file(GLOB files "${SOURCE_DIR}/${folder}/*.h" "${SOURCE_DIR}/${folder}/*.cpp")
+  if(NOT files)
+    continue()
+  endif()
+  set(allowed ${folder} ${LOWER_${folder}})
+  set(seen "")
+  foreach(file IN LISTS files)
+    file(STRINGS "${file}" lines REGEX "^[ \t]*#[ \t]*include[ \t]*\"")
+    foreach(line IN LISTS lines)
+      string(REGEX REPLACE "^[ \t]*#[ \t]*include[ \t]*\"([^\"]*)\".*" "\\1" header "${line}")
+      # The folder of a header: "platform/qt/X.h" -> platform/qt, "tax/X.h" -> tax.
+      string(REGEX MATCH "^[a-z]+(/qt|/headless)?/" target "${header}")
+      if(NOT target)
+        continue()
+      endif()
+      string(REGEX REPLACE "/$" "" target "${target}")
+      list(APPEND seen ${target})
+      list(FIND allowed ${target} at)
+      if(at EQUAL -1)
+        file(RELATIVE_PATH rel "${SOURCE_DIR}" "${file}")
+        message("upward: ${rel} includes \"${header}\"")
+        math(EXPR broken "${broken} + 1")
+      endif()
+    endforeach()
+  endforeach()
+  list(REMOVE_DUPLICATES seen)
+  list(REMOVE_ITEM seen ${folder})
+  list(SORT seen)
+  string(REPLACE ";" " " seen "${seen}")
+  message("${folder} -> ${seen}")
+endforeach()
+
+if(broken GREATER 0)
+  message(FATAL_ERROR "${broken} include(s) point up the layers")
+endif()
