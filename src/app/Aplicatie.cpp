@@ -24,6 +24,7 @@ Aplicatie::Aplicatie(Platforma& platforma)
   intro.Centralizator = &listabIV;
   intro.ListareF1 = &lisFise1;
   intro.ListareF2 = &lisFise2;
+  intro.Verif_fis = &verifFis;
 }
 
 bool Aplicatie::Porneste() {

@@ -18,6 +18,7 @@
 #include "sheets/FrmGasit.h"
 #include "tax/Fisa1F.h"
 #include "tax/Fisa2.h"
+#include "verify/VerifFis.h"
 
 namespace fisc {
 
@@ -51,6 +52,7 @@ class Aplicatie {
   ListabIV listabIV{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
   LisFise1 lisFise1{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
   LisFise2 lisFise2{desktop_, p_, stare_.Parametri, stare_.Fisa, stare_.Listare};
+  VerifFis verifFis{desktop_, p_, stare_.Parametri, stare_.Impozitar, stare_.Verificare};
 };
 
 }  // namespace fisc

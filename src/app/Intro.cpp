@@ -20,6 +20,8 @@
 #include "sheets/FisaInLucru.h"
 #include "sheets/FisiereSet.h"
 #include "sheets/Sortare.h"
+#include "verify/Preluare.h"
+#include "verify/VerifFis.h"
 
 namespace fisc {
 
@@ -113,10 +115,8 @@ Intro::Intro(Desktop& desktop, Platforma& platforma, ParametriAn& parametri, int
     GolesteSortare();
     if (!DataCorecta()) return;
     // The verification learns the year from this file.
-    p_.files.DeleteIfExists("tr12.txt");
-    LineWriter tr = p_.files.Write("tr12.txt");
-    tr.Line(parametri_.AnFiscal);
-    tr.Close();
+    ScrieAnulConvertorului(p_.files, parametri_.AnFiscal);
+    Verif_fis->Show();
     Command1.SetFocus();
   };
 

@@ -15,6 +15,7 @@ class LisBord;
 class ListabIV;
 class LisFise1;
 class LisFise2;
+class VerifFis;
 
 class Intro : public Form {
  public:
@@ -49,6 +50,7 @@ class Intro : public Form {
   ListabIV* Centralizator = nullptr;
   LisFise1* ListareF1 = nullptr;
   LisFise2* ListareF2 = nullptr;
+  VerifFis* Verif_fis = nullptr;
 
  private:
   // Clears Check1, which deletes the alphabetical copies of the sheets.

@@ -8,6 +8,7 @@
 #include "records/Numere.h"
 #include "records/Structura.h"
 #include "sheets/FisiereSet.h"
+#include "sheets/RecordAngajator.h"
 
 namespace fisc {
 
@@ -42,16 +43,7 @@ bool ConvertesteRep(Files& files, const std::string& repY, bool canalBlocat) {
     }
     convertit = StructuraRecord(line, SablonAngajatorTipText);
     LineWriter out = files.Write(fisier::Temp1);
-    if (convertit) {
-      std::size_t a = line.find(",#");
-      std::size_t b = line.find("#,#", a + 2);
-      // A is up to the first ",#", B from there up to the next "#,#" (the
-      // type, with its opening mark dropped), C from the comma of that "#,#".
-      std::string A = line.substr(0, a);
-      std::string B = line.substr(a + 2, b - a - 2);
-      std::string C = line.substr(b + 1);
-      out.Line(A + "," + B + C);
-    }
+    if (convertit) out.Line(AngajatorCuTipNumeric(line));
     out.Close();
   });
   Pas([&] {

@@ -7,6 +7,7 @@
 #include "params/Impozitar.h"
 #include "sheets/Angajator.h"
 #include "sheets/FisaInLucru.h"
+#include "verify/StareVerificare.h"
 
 namespace fisc {
 
@@ -17,6 +18,7 @@ struct Stare {
   StareAngajator Angajator;
   FisaInLucru Fisa;
   StareListare Listare;
+  StareVerificare Verificare;
 };
 
 }  // namespace fisc

@@ -47,6 +47,9 @@ class Driver {
     dialogs_.Report = report;
     launcher_.Report = report;
     printer_.Report = report;
+    // The converter runs and is waited for: the script's next action comes
+    // after its window would have closed.
+    launcher_.workdir = options.workdir;
     app_.Ecran().OnFatal = [this](const RuntimeFailure& f) {
       out_ << "fatal " << f.number() << ' ' << Quote(f.description()) << '\n';
     };

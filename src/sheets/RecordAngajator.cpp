@@ -40,4 +40,16 @@ std::string ScrieAngajator(const RecordAngajator& r) {
   return s;
 }
 
+std::string AngajatorCuTipNumeric(std::string_view line) {
+  std::size_t a = line.find(",#");
+  std::size_t b = a == std::string_view::npos ? a : line.find("#,#", a + 2);
+  if (b == std::string_view::npos) return std::string(line);
+  // The code, the type without its marks, then all from the comma behind it.
+  std::string s(line.substr(0, a));
+  s += ',';
+  s += line.substr(a + 2, b - a - 2);
+  s += line.substr(b + 1);
+  return s;
+}
+
 }  // namespace fisc

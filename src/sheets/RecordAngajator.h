@@ -20,5 +20,8 @@ RecordAngajator CitesteAngajator(std::string_view line);
 // The line as the employer screen writes it: a type 1 record has empty names,
 // any type but 1 is written as 2 with an empty denomination.
 std::string ScrieAngajator(const RecordAngajator& r);
+// A line of the structure whose type is still a text field ("#1#") with the
+// type made a bare field; the rest of the line is kept as it stands.
+std::string AngajatorCuTipNumeric(std::string_view line);
 
 }  // namespace fisc

@@ -64,6 +64,16 @@ CheltuieliPropuse PropuneCheltuieli(const CoeficientiLuni& coefCalc, const Param
   return r;
 }
 
+double CheltuieliCuvenite(double luni, const ParametriAn& p) {
+  return luni * Rotunjeste(p.DedLuna[12] * ValZecimal(p.CoefCheltProf));
+}
+
+double DeduceriCuvenite(const CoeficientiLuni& coefCalc, const ParametriAn& p) {
+  double deduceri = 0;
+  for (const std::string& c : coefCalc) deduceri += Rotunjeste(CoefPlafonat(c, p) * p.DedLuna[12]);
+  return deduceri;
+}
+
 double ImpozitFinal(double venitImpunereFinala, const ParametriAn& p) {
   return Rotunjeste(ValZecimal(p.CotaImpFinal) * venitImpunereFinala);
 }
@@ -72,21 +82,16 @@ Regularizare CalculeazaRegularizare(const DateRegularizare& date, const Parametr
                                     const TabelImpozit& tabel) {
   Regularizare r;
   auto& reg = r.Reg;
-  const double dedAn = p.DedLuna[12];
 
   reg[0] = date.VenitNet;
   reg[1] = date.ChAc;
   r.Luni = date.Luni;
   double luniDeducere = LuniCuDeducere(date.CoefCalc);
   if (luniDeducere < r.Luni) r.Luni = luniDeducere;
-  reg[2] = r.Luni * Rotunjeste(dedAn * ValZecimal(p.CoefCheltProf));
+  reg[2] = CheltuieliCuvenite(r.Luni, p);
   reg[3] = reg[0] + reg[1] - reg[2] > 0 ? reg[0] + reg[1] - reg[2] : 0;
 
-  // Every month takes the annual deduction, the one corrected with inflation,
-  // rounded month by month before the sum.
-  double deduceri = 0;
-  for (const std::string& c : date.CoefCalc) deduceri += Rotunjeste(CoefPlafonat(c, p) * dedAn);
-  reg[4] = reg[0] == 0 ? 0 : deduceri;
+  reg[4] = reg[0] == 0 ? 0 : DeduceriCuvenite(date.CoefCalc, p);
   reg[5] = reg[3] - reg[4] > 0 ? reg[3] - reg[4] : 0;
 
   short anual = 13;

@@ -47,6 +47,15 @@ struct CheltuieliPropuse {
 // Inputs: CoefCalc(0..11) texts. The ChAc and Luni that Command3 proposes.
 CheltuieliPropuse PropuneCheltuieli(const CoeficientiLuni& coefCalc, const ParametriAn& p);
 
+// Inputs: Luni. Item VI.3, the expenses due: the months times the share of
+// the annual deduction, the share rounded once.
+double CheltuieliCuvenite(double luni, const ParametriAn& p);
+
+// Inputs: CoefCalc(0..11) texts. The deductions due of the year: every month
+// takes the annual deduction times its capped coefficient, rounded month by
+// month before the sum.
+double DeduceriCuvenite(const CoeficientiLuni& coefCalc, const ParametriAn& p);
+
 // Inputs: Reg(10), the income with final taxation. Reg(11), its tax.
 double ImpozitFinal(double venitImpunereFinala, const ParametriAn& p);
 

@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include "platform/Converter.h"
+
 namespace fisc {
 
 std::string IconWord(Icon icon) {
@@ -91,6 +93,9 @@ std::optional<std::string> HeadlessDialogs::Input(std::string_view prompt, std::
 void HeadlessLauncher::Start(std::string_view program, std::string_view argument) {
   started.emplace_back(program, argument);
   if (Report) Report("run " + Quote(program) + " " + Quote(argument));
+  if (workdir.empty() || !EsteConvertor(program)) return;
+  std::filesystem::path convertor = GasesteConvertor(workdir);
+  if (!convertor.empty()) RuleazaConvertor(convertor, workdir);
 }
 
 }  // namespace fisc

@@ -2,6 +2,7 @@
 // Services without a window: boxes are answered from a queue and every box,
 // input and started program is reported as a line, for the replay and tests.
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <stdexcept>
 #include <string>
@@ -51,11 +52,15 @@ class HeadlessDialogs : public Dialogs {
   std::vector<Shown> shown_;
 };
 
+// Programs are only recorded, except the converter when `workdir` is set:
+// it runs there and is waited for, as a person waits for its window to close
+// before going on.
 class HeadlessLauncher : public Launcher {
  public:
   void Start(std::string_view program, std::string_view argument) override;
   std::vector<std::pair<std::string, std::string>> started;
   std::function<void(const std::string&)> Report;
+  std::filesystem::path workdir;
 };
 
 // A clock whose pauses pass at once; the replay and the tests don't wait.

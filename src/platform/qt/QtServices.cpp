@@ -13,6 +13,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "platform/Converter.h"
 #include "platform/Files.h"
 #include "platform/qt/Cp1250.h"
 
@@ -162,6 +163,13 @@ void QtLauncher::Start(std::string_view program, std::string_view argument) {
   QStringList arguments;
   if (!argument.empty()) arguments << FromCp1250(argument);
   QString workdir = QString::fromStdString(files_.Directory().string());
+  if (EsteConvertor(program)) {
+    // Its window is its own; the clerk goes on when it has closed.
+    std::filesystem::path convertor = GasesteConvertor(files_.Directory());
+    if (!convertor.empty())
+      QProcess::startDetached(QString::fromStdString(convertor.string()), {workdir}, workdir);
+    return;
+  }
   if (name.compare(QLatin1String("calc.exe"), Qt::CaseInsensitive) == 0) {
     for (const char* calculator :
          {"gnome-calculator", "galculator", "kcalc", "qalculate-gtk", "xcalc"}) {

@@ -37,7 +37,8 @@ class QtLauncher : public Launcher {
   ~QtLauncher() override;
   // "notepad" and "help" open our read-only viewer on a file of the working
   // directory; "calc.exe" starts the calculator of the system, when it has
-  // one; any other program is started when it can be found.
+  // one; "transfer.exe" starts the converter in the working directory
+  // without waiting; any other program is started when it can be found.
   void Start(std::string_view program, std::string_view argument) override;
 
   // The viewers still open, newest last.
