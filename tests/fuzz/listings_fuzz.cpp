@@ -2,7 +2,6 @@
 // goes to a file by its first byte: 1 Ff1.txt, 2 Ff2.txt, D Deduceri.txt,
 // R Repfisc.txt; a sheet line the reader refuses stays out, as the
 // verification keeps it out of the files of a run.
-#include <memory>
 
 #include "fuzz/FuzzSupport.h"
 #include "listings/Borderou.h"
@@ -33,9 +32,8 @@ bool Citit(char tip, std::string_view record) {
     } else if (tip == '2') {
       CitesteFF2(record);
     } else if (tip == 'D') {
-      // On the heap: clang 14 fails to compile this table as a local here.
-      auto t = std::make_unique<TabelDed>();
-      CitesteRandDed(record, *t, 1);
+      TabelDed t;
+      CitesteRandDed(record, t, 1);
     } else if (tip == 'R') {
       CitesteAngajator(record);
     } else {

@@ -1,6 +1,4 @@
 // The dependant reader on any line, into the last row of the table.
-#include <memory>
-
 #include "fuzz/FuzzSupport.h"
 #include "platform/Failure.h"
 #include "records/Structura.h"
@@ -12,10 +10,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // A "?" ends the structure scan, so what follows it is never checked.
   bool forma = StructuraRecord(linie, SablonDeducere) && linie.find('?') == std::string_view::npos;
   try {
-    // On the heap: clang 14 fails to compile this table as a local here.
-    auto tabel = std::make_unique<TabelDed>();
-    std::string cod(CitesteRandDed(linie, *tabel, ded::Randuri));
-    if (forma && !StructuraRecord(RecordDed(cod, *tabel, ded::Randuri), SablonDeducere))
+    TabelDed tabel;
+    std::string cod(CitesteRandDed(linie, tabel, ded::Randuri));
+    if (forma && !StructuraRecord(RecordDed(cod, tabel, ded::Randuri), SablonDeducere))
       __builtin_trap();
   } catch (const RuntimeFailure&) {
   }
