@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "sheets/RecordAngajator.h"
 #include "app/Schimb.h"
 #include "platform/Failure.h"
 #include "platform/Files.h"
+#include "sheets/RecordAngajator.h"
 #include "support/TestSupport.h"
 
 namespace fisc {
@@ -20,6 +20,27 @@ TEST(SchimbLaPornire, AnEmptyRepYearFileIsNotConverted) {
   RezultatPornire r = SchimbLaPornire(files, "2002");
   EXPECT_FALSE(r.RepConvertit);
   EXPECT_FALSE(files.Exists("temp1.txt"));
+}
+
+TEST(SchimbLaPornire, WithNothingToConvertATemp1LeftBehindStays) {
+  for (bool repGol : {false, true}) {
+    test::TempDir dir;
+    if (repGol) test::WriteBytes(dir / "Rep_2002.txt", "");
+    test::WriteBytes(dir / "temp1.txt", "ramas\r\n");
+    Files files(dir.path());
+    SchimbLaPornire(files, "2002");
+    EXPECT_EQ(test::ReadBytes(dir / "temp1.txt"), "ramas\r\n") << "Rep_2002 gol: " << repGol;
+  }
+}
+
+TEST(SchimbLaPornire, ARepYearOfAnotherShapeStaysAndTemp1Goes) {
+  test::TempDir dir;
+  test::WriteBytes(dir / "Rep_2002.txt", kOldRep);
+  test::WriteBytes(dir / "temp1.txt", "ramas\r\n");
+  Files files(dir.path());
+  EXPECT_FALSE(SchimbLaPornire(files, "2002").RepConvertit);
+  EXPECT_FALSE(files.Exists("temp1.txt"));
+  EXPECT_EQ(test::ReadBytes(dir / "Rep_2002.txt"), kOldRep);
 }
 
 TEST(SchimbLaPornire, ABlockedChannelLeavesTheEmployerRecordsUnread) {

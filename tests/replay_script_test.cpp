@@ -30,5 +30,17 @@ TEST(ScriptLine, TakesControlReferencesApart) {
   EXPECT_THROW(ParseRef("Intro", false), ScriptError);
 }
 
+TEST(ScriptLine, AUnicodeEscapeTakesExactlyFourHexDigits) {
+  EXPECT_EQ(Tokenize(R"(type "\u00e9")")[1].text, "\xe9");
+  for (const char* bad : {R"(type "\u12zz")", R"(type "\u-001")", R"(type "\u12")"})
+    EXPECT_THROW(Tokenize(bad), ScriptError) << bad;
+}
+
+TEST(ScriptLine, AnIndexThatIsNoNumberIsAScriptError) {
+  for (const char* bad :
+       {"Fisa_I.AdrP(x)", "Fisa_I.AdrP()", "Fisa_I.AdrP(99999999999)", "Fisa_I.AdrP(3x)"})
+    EXPECT_THROW(ParseRef(bad, false), ScriptError) << bad;
+}
+
 }  // namespace
 }  // namespace fisc

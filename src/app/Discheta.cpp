@@ -17,13 +17,14 @@ void CopiazaPeDischeta(Platforma& p, std::string_view an) {
   std::error_code ec;
   if (!fs::is_directory(p.drive.Root(), ec)) Fail(EroareDischeta(p.drive, err::PathNotFound));
   Files discheta(p.drive.Root());
+  discheta.SetFaultPlan(p.files.Faults());
   for (const std::string& nume : discheta.List()) discheta.Delete(nume);
   for (Familie f : {Familie::FF1, Familie::FF2, Familie::Ded, Familie::Rep}) {
     std::string tinta = NumeAnual(f, an);
     // A year that can't stand in a file name is a name the drive refuses.
     if (tinta.find_first_of(std::string_view("/\0", 2)) != std::string::npos)
       Fail(err::BadFileName);
-    CopyFileAtomic(p.files.Path(NumeLucru(f)), discheta.Path(tinta));
+    CopyFileAtomic(p.files.Path(NumeLucru(f)), discheta.Path(tinta), p.files.Faults());
   }
 }
 

@@ -182,7 +182,8 @@ FisaI::FisaI(Desktop& desktop, Platforma& platforma, const ParametriAn& parametr
 
   Closing = [this](bool&) {
     std::string rep = NumeAnual(Familie::Rep, parametri_.AnFiscal);
-    p_.files.DeleteIfExists(rep);
+    // The copy replaces the per-year file in one rename: deleting it first
+    // would lose it to a failure in between.
     p_.files.Copy(fisier::Repfisc, rep);
     if (Intro) Intro->Show();
   };

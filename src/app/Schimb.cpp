@@ -29,8 +29,12 @@ constexpr Familie kLaSfarsit[] = {Familie::FF1, Familie::FF2, Familie::Ded, Fami
 // year kept the type as a text field; it becomes a bare field.
 bool ConvertesteRep(Files& files, const std::string& repY, bool canalBlocat) {
   bool convertit = false;
+  // With nothing to convert the step touches nothing, not even a temp1.txt
+  // that is already there.
+  bool deConvertit = false;
+  Pas([&] { deConvertit = files.Exists(repY) && files.Length(repY) > 0; });
+  if (!deConvertit) return false;
   Pas([&] {
-    if (!files.Exists(repY) || files.Length(repY) == 0) return;
     if (canalBlocat) Fail(err::FileAlreadyOpen);
     std::string line;
     {
@@ -75,7 +79,8 @@ RezultatPornire SchimbLaPornire(Files& files, std::string_view anFiscal, bool ca
     Pas([&] {
       if (!files.Exists(w)) files.CreateEmpty(w);
     });
-    Pas([&] { files.DeleteIfExists(p); });
+    // The copy replaces the old file in one rename, so it is not deleted
+    // first: a failing copy leaves it whole.
     Pas([&] {
       if (r.AlteAn)
         files.CreateEmpty(p);

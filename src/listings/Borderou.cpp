@@ -220,8 +220,9 @@ LisBord::LisBord(Desktop& desktop, Platforma& platforma, const ParametriAn& para
 
   const std::pair<Control*, Control*> ordine[] = {
       {&Dnupren, &Dfunc}, {&Dfunc, &Dtel}, {&Dtel, &DpersC}, {&DpersC, &Command1}};
-  for (auto [camp, urmator] : ordine) {
-    camp->KeyPress = [urmator](int& key) {
+  for (const auto& pereche : ordine) {
+    Control* urmator = pereche.second;
+    pereche.first->KeyPress = [urmator](int& key) {
       if (key == kKeyEnter) urmator->SetFocus();
     };
   }

@@ -21,7 +21,11 @@ struct Rect {
   int x = 0, y = 0, w = 0, h = 0;
 };
 
+// Character codes that key handlers receive.
+inline constexpr int kKeyBackspace = 8;
 inline constexpr int kKeyEnter = 13;
+inline constexpr int kKeyEscape = 27;
+inline constexpr int kKeySpace = 32;
 
 class Control {
  public:

@@ -98,6 +98,34 @@ void Desktop::UserEnter() {
   });
 }
 
+void Desktop::UserKey(int key) {
+  if (key == kKeyEnter) return UserEnter();
+  Dispatch([&] {
+    Control* c = focused_;
+    if (!c) return;
+    if (c->KeyPress) c->KeyPress(key);
+    // A handler that took the focus elsewhere keeps the key from the control.
+    if (ended_ || key != kKeySpace || focused_ != c) return;
+    switch (c->Kind()) {
+      case ControlKind::CheckBox: c->SetValue(c->Value() ? 0 : 1); break;
+      case ControlKind::OptionButton: c->SetValue(1); break;
+      case ControlKind::Button:
+        if (c->Click) c->Click();
+        break;
+      default: break;
+    }
+  });
+}
+
+void Desktop::UserArrow(int step) {
+  Dispatch([&] {
+    Control* c = focused_;
+    if (!c || (c->Kind() != ControlKind::ListBox && c->Kind() != ControlKind::ComboBox)) return;
+    int index = std::clamp(c->ListIndex() + step, 0, c->ListCount() - 1);
+    if (index >= 0 && index != c->ListIndex()) c->SetListIndex(index);
+  });
+}
+
 void Desktop::StepTab(int step) {
   Dispatch([&] {
     Control* c = focused_;

@@ -40,6 +40,13 @@ class Desktop {
   // at the maximum length. False when the focused control takes no text.
   bool UserType(std::string_view text);
   void UserEnter();
+  // Any key with a character code (a letter, the space bar, Escape): the
+  // focused control's KeyPress gets it first, then the space bar presses a
+  // button or a check box that still has the focus.
+  void UserKey(int key);
+  // An arrow key: up (-1) or down (+1) moves the choice of a focused list;
+  // nothing else takes it.
+  void UserArrow(int step);
   void UserTab();
   // Shift+Tab: the previous control in tab order.
   void UserBackTab();

@@ -16,6 +16,7 @@ std::string FailureDescription(int number) {
     case err::BadFileName: return "Bad file name or number";
     case err::FileNotFound: return "File not found";
     case err::FileAlreadyOpen: return "File already open";
+    case err::DeviceIO: return "Device I/O error";
     case err::FileAlreadyExists: return "File already exists";
     case err::DiskFull: return "Disk full";
     case err::InputPastEnd: return "Input past end of file";

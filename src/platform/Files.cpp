@@ -36,6 +36,7 @@ bool EqualNoCase(std::string_view a, std::string_view b) {
     case EPERM:
     case EROFS: Fail(err::PermissionDenied);
     case ENOTDIR: Fail(err::PathNotFound);
+    case EIO: Fail(err::DeviceIO);
     case ENAMETOOLONG:
     case EINVAL: Fail(err::BadFileName);
     default: Fail(err::PathFileAccess);
@@ -56,6 +57,20 @@ void SyncAndClose(std::FILE* file) {
   if (!ok) FailFromErrno(error);
 }
 
+// Asks the fault plan, when there is one, whether the operation fails.
+void Consult(FaultPlan* faults, FileOp op, const fs::path& path) {
+  if (!faults) return;
+  if (int error = faults->Before(op, path)) FailFromErrno(error);
+}
+
+// Makes a rename durable: the directory entry reaches the disk too.
+void SyncDirectory(const fs::path& directory) {
+  int fd = ::open(directory.empty() ? "." : directory.c_str(), O_RDONLY | O_DIRECTORY);
+  if (fd < 0) return;
+  ::fsync(fd);
+  ::close(fd);
+}
+
 }  // namespace
 
 // ---- LineReader
@@ -63,7 +78,7 @@ void SyncAndClose(std::FILE* file) {
 LineReader::LineReader(const fs::path& path) {
   file_ = std::fopen(path.c_str(), "rb");
   if (!file_) FailFromErrno(errno);
-  buffer_ = std::make_unique<char[]>(kBufferSize);
+  buffer_ = std::make_unique_for_overwrite<char[]>(kBufferSize);
 }
 
 LineReader::LineReader(LineReader&& other) noexcept { *this = std::move(other); }
@@ -130,10 +145,12 @@ bool LineReader::Next(std::string& line) {
 
 // ---- LineWriter
 
-LineWriter::LineWriter(const fs::path& path, bool append) {
+LineWriter::LineWriter(const fs::path& path, bool append, FaultPlan* faults) : faults_(faults) {
+  if (faults_) path_ = path;
+  Consult(FileOp::Create);
   file_ = std::fopen(path.c_str(), append ? "ab" : "wb");
   if (!file_) FailFromErrno(errno);
-  buffer_ = std::make_unique<char[]>(kBufferSize);
+  buffer_ = std::make_unique_for_overwrite<char[]>(kBufferSize);
   std::setvbuf(file_, buffer_.get(), _IOFBF, kBufferSize);
 }
 
@@ -144,9 +161,13 @@ LineWriter& LineWriter::operator=(LineWriter&& other) noexcept {
     if (file_) std::fclose(file_);
     file_ = std::exchange(other.file_, nullptr);
     buffer_ = std::move(other.buffer_);
+    faults_ = other.faults_;
+    path_ = std::move(other.path_);
   }
   return *this;
 }
+
+void LineWriter::Consult(FileOp op) { fisc::Consult(faults_, op, path_); }
 
 LineWriter::~LineWriter() {
   if (file_) std::fclose(file_);
@@ -154,6 +175,7 @@ LineWriter::~LineWriter() {
 
 void LineWriter::Write(std::string_view bytes) {
   if (bytes.empty()) return;
+  Consult(FileOp::Write);
   if (std::fwrite(bytes.data(), 1, bytes.size(), file_) != bytes.size()) FailFromErrno(errno);
 }
 
@@ -164,6 +186,15 @@ void LineWriter::Line(std::string_view text) {
 
 void LineWriter::Close() {
   if (!file_) return;
+  if (faults_) {
+    // A failing close loses what it had not written yet.
+    try {
+      Consult(FileOp::Close);
+    } catch (...) {
+      std::fclose(std::exchange(file_, nullptr));
+      throw;
+    }
+  }
   SyncAndClose(std::exchange(file_, nullptr));
 }
 
@@ -184,6 +215,8 @@ fs::path ResolveName(const fs::path& directory, std::string_view name) {
 
 Files::Files(fs::path directory) : directory_(std::move(directory)) {}
 
+void Files::Consult(FileOp op, const fs::path& path) const { fisc::Consult(faults_, op, path); }
+
 fs::path Files::Path(std::string_view name) const { return ResolveName(directory_, name); }
 
 bool Files::Exists(std::string_view name) const {
@@ -199,7 +232,9 @@ std::uintmax_t Files::Length(std::string_view name) const {
 }
 
 void Files::Delete(std::string_view name) {
-  if (::unlink(Path(name).c_str()) != 0) FailFromErrno(errno);
+  fs::path path = Path(name);
+  Consult(FileOp::Delete, path);
+  if (::unlink(path.c_str()) != 0) FailFromErrno(errno);
 }
 
 void Files::DeleteIfExists(std::string_view name) {
@@ -208,21 +243,30 @@ void Files::DeleteIfExists(std::string_view name) {
 
 void Files::CreateEmpty(std::string_view name) { Write(name).Close(); }
 
-void CopyFileAtomic(const fs::path& from, const fs::path& to) {
+void CopyFileAtomic(const fs::path& from, const fs::path& to, FaultPlan* faults) {
   std::FILE* in = std::fopen(from.c_str(), "rb");
   if (!in) FailFromErrno(errno);
   fs::path work = to.parent_path() / (".~" + to.filename().string());
+  if (faults) {
+    try {
+      Consult(faults, FileOp::Create, work);
+    } catch (...) {
+      std::fclose(in);
+      throw;
+    }
+  }
   std::FILE* out = std::fopen(work.c_str(), "wb");
   if (!out) {
     int error = errno;
     std::fclose(in);
     FailFromErrno(error);
   }
-  auto buffer = std::make_unique<char[]>(kBufferSize);
+  auto buffer = std::make_unique_for_overwrite<char[]>(kBufferSize);
   std::size_t n;
   while ((n = std::fread(buffer.get(), 1, kBufferSize, in)) > 0) {
-    if (std::fwrite(buffer.get(), 1, n, out) != n) {
-      int error = errno;
+    int injected = faults ? faults->Before(FileOp::Write, work) : 0;
+    if (injected || std::fwrite(buffer.get(), 1, n, out) != n) {
+      int error = injected ? injected : errno;
       std::fclose(in);
       std::fclose(out);
       ::unlink(work.c_str());
@@ -230,30 +274,46 @@ void CopyFileAtomic(const fs::path& from, const fs::path& to) {
     }
   }
   std::fclose(in);
+  int closing = faults ? faults->Before(FileOp::Close, work) : 0;
+  if (closing) {
+    std::fclose(out);
+    ::unlink(work.c_str());
+    FailFromErrno(closing);
+  }
   try {
     SyncAndClose(out);
   } catch (...) {
     ::unlink(work.c_str());
     throw;
   }
-  if (std::rename(work.c_str(), to.c_str()) != 0) FailFromErrno(errno);
+  int error = 0;
+  if (faults) error = faults->Before(FileOp::Rename, to);
+  if (error || std::rename(work.c_str(), to.c_str()) != 0) {
+    if (!error) error = errno;
+    ::unlink(work.c_str());
+    FailFromErrno(error);
+  }
+  SyncDirectory(to.parent_path());
 }
 
 void Files::Copy(std::string_view from, std::string_view to) {
-  CopyFileAtomic(Path(from), Path(to));
+  CopyFileAtomic(Path(from), Path(to), faults_);
 }
 
 void Files::Replace(std::string_view work, std::string_view target) {
   fs::path source = Path(work);
   if (!fs::exists(source)) Fail(err::FileNotFound);
-  if (std::rename(source.c_str(), Path(target).c_str()) != 0) FailFromErrno(errno);
+  fs::path destination = Path(target);
+  Consult(FileOp::Rename, destination);
+  if (std::rename(source.c_str(), destination.c_str()) != 0) FailFromErrno(errno);
+  SyncDirectory(directory_);
 }
 
 LineReader Files::Read(std::string_view name) const { return LineReader(Path(name)); }
 
-LineWriter Files::Write(std::string_view name) { return LineWriter(Path(name), false); }
+LineWriter Files::Write(std::string_view name) { return LineWriter(Path(name), false, faults_); }
 
-LineWriter Files::Append(std::string_view name) { return LineWriter(Path(name), true); }
+LineWriter Files::Append(std::string_view name) { return LineWriter(Path(name), true, faults_); }
 
 std::vector<std::string> Files::List(std::string_view subdirectory) const {
   std::vector<std::string> names;

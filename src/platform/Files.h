@@ -13,6 +13,19 @@
 
 namespace fisc {
 
+// The operations that change the disk, as a test double of the disk sees them.
+enum class FileOp { Create, Write, Close, Rename, Delete };
+
+// Consulted before each operation that changes the disk, so that a test can
+// make the k-th one fail as a real disk does. A run of the program has none.
+class FaultPlan {
+ public:
+  virtual ~FaultPlan() = default;
+  // The operating system error (ENOSPC, EACCES, EIO ...) that the operation
+  // fails with, or 0 to let it run.
+  virtual int Before(FileOp op, const std::filesystem::path& path) = 0;
+};
+
 // Reads a text file line by line through a large buffer. A line ends at
 // CR LF, a bare LF or a bare CR; the end is not part of the line.
 class LineReader {
@@ -41,7 +54,7 @@ class LineReader {
 // syncs the data to the disk; an unclosed writer still flushes when destroyed.
 class LineWriter {
  public:
-  LineWriter(const std::filesystem::path& path, bool append);
+  LineWriter(const std::filesystem::path& path, bool append, FaultPlan* faults = nullptr);
   LineWriter(LineWriter&&) noexcept;
   LineWriter& operator=(LineWriter&&) noexcept;
   ~LineWriter();
@@ -51,8 +64,11 @@ class LineWriter {
   void Close();
 
  private:
+  void Consult(FileOp op);
   std::FILE* file_ = nullptr;
   std::unique_ptr<char[]> buffer_;
+  FaultPlan* faults_ = nullptr;
+  std::filesystem::path path_;
 };
 
 class Files {
@@ -60,6 +76,9 @@ class Files {
   explicit Files(std::filesystem::path directory);
 
   const std::filesystem::path& Directory() const { return directory_; }
+  // Every later change of the disk consults `plan` first (nullptr for none).
+  void SetFaultPlan(FaultPlan* plan) { faults_ = plan; }
+  FaultPlan* Faults() const { return faults_; }
   // The path of the file with this name in any case, or the name as spelled
   // when no such file exists.
   std::filesystem::path Path(std::string_view name) const;
@@ -90,12 +109,15 @@ class Files {
   Files Subdirectory(std::string_view name) const;
 
  private:
+  void Consult(FileOp op, const std::filesystem::path& path) const;
   std::filesystem::path directory_;
+  FaultPlan* faults_ = nullptr;
 };
 
 // Copies one file to another path, replacing the target in one rename.
 // Failures: 53 for a missing source, 76 for a missing folder, 61 for a full disk.
-void CopyFileAtomic(const std::filesystem::path& from, const std::filesystem::path& to);
+void CopyFileAtomic(const std::filesystem::path& from, const std::filesystem::path& to,
+                    FaultPlan* faults = nullptr);
 
 // Resolves `name` inside `directory` without regard to case.
 std::filesystem::path ResolveName(const std::filesystem::path& directory, std::string_view name);

@@ -114,6 +114,23 @@ class Driver {
     if (t.size() != n) throw ScriptError("wrong number of arguments");
   }
 
+  // A key by its name, or a single character for the key that types it.
+  void Key(const std::string& name) {
+    if (name == "tab") return Desk().UserTab();
+    if (name == "backtab") return Desk().UserBackTab();
+    if (name == "up") return Desk().UserArrow(-1);
+    if (name == "down") return Desk().UserArrow(1);
+    if (name == "left" || name == "right") return;  // only the caret moves
+    int code = name == "enter"       ? kKeyEnter
+               : name == "space"     ? kKeySpace
+               : name == "escape"    ? kKeyEscape
+               : name == "backspace" ? kKeyBackspace
+               : name.size() == 1    ? static_cast<unsigned char>(name[0])
+                                     : -1;
+    if (code < 0) throw ScriptError("unknown key " + name);
+    Desk().UserKey(code);
+  }
+
   int Execute(const std::string& line) {
     std::vector<Token> t = Tokenize(line);
     const std::string& cmd = t[0].text;
@@ -128,12 +145,7 @@ class Driver {
       if (!Desk().UserType(StringArg(t, 1))) throw ScriptError("the focused control takes no text");
     } else if (cmd == "key") {
       Arity(t, 2);
-      if (t[1].text == "enter")
-        Desk().UserEnter();
-      else if (t[1].text == "tab")
-        Desk().UserTab();
-      else
-        throw ScriptError("unknown key " + t[1].text);
+      Key(t[1].text);
     } else if (cmd == "select") {
       Arity(t, 3);
       Control& list = ControlArg(t, 1);

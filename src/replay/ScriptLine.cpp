@@ -1,6 +1,7 @@
 #include "replay/ScriptLine.h"
 
 #include <cctype>
+#include <charconv>
 
 namespace fisc {
 
@@ -34,9 +35,12 @@ std::string ParseString(std::string_view line, std::size_t& i) {
       case 'r': out += '\r'; break;
       case 't': out += '\t'; break;
       case 'u': {
+        // Exactly four hexadecimal digits, as JSON has them.
         if (i + 4 > line.size()) throw ScriptError("short \\u escape");
-        unsigned code =
-            static_cast<unsigned>(std::stoul(std::string(line.substr(i, 4)), nullptr, 16));
+        unsigned code = 0;
+        const char* digits = line.data() + i;
+        auto [end, ec] = std::from_chars(digits, digits + 4, code, 16);
+        if (ec != std::errc() || end != digits + 4) throw ScriptError("bad \\u escape");
         i += 4;
         AppendUtf8Byte(out, code);
         break;
@@ -91,7 +95,10 @@ ControlRef ParseRef(std::string_view text, bool withProperty) {
   } else {
     if (rest.back() != ')') throw ScriptError("bad control " + std::string(text));
     ref.name = rest.substr(0, open);
-    ref.index = std::stoi(std::string(rest.substr(open + 1, rest.size() - open - 2)));
+    std::string_view index = rest.substr(open + 1, rest.size() - open - 2);
+    auto [end, ec] = std::from_chars(index.data(), index.data() + index.size(), ref.index);
+    if (ec != std::errc() || end != index.data() + index.size() || index.empty())
+      throw ScriptError("bad control " + std::string(text));
   }
   if (ref.name.empty()) throw ScriptError("bad control " + std::string(text));
   return ref;

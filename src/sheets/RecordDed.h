@@ -34,7 +34,9 @@ class TabelDed {
   void Goleste();
 
  private:
-  std::array<std::array<std::string, ded::Coloane + 1>, ded::Randuri + 1> celule_{};
+  // Empty strings by their own constructor; a braced initializer here makes
+  // clang 14 crash.
+  std::array<std::array<std::string, ded::Coloane + 1>, ded::Randuri + 1> celule_;
 };
 
 // The record of row `rand`, without a line end: marks "X" or nothing, column 9

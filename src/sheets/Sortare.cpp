@@ -45,13 +45,15 @@ void SorteazaAlfabetic(Files& files, Control& lista, std::string_view sursa,
       lista.AddItem(item);
     }
   }
-  LineWriter out = files.Write(tinta);
+  // Through the work file, so that a copy the listings read is never half written.
+  LineWriter out = files.Write(fisier::Temporar);
   for (const std::string& item : lista.Items()) {
     std::size_t dolari = item.find("$$");
     std::size_t aron = item.find('@', dolari + 2);
     out.Line(std::string_view(item).substr(dolari + 2, aron - dolari - 2));
   }
   out.Close();
+  files.Replace(fisier::Temporar, tinta);
   // The items hold every record of the file; they are of no use once written.
   lista.Clear();
 }

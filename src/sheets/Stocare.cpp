@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "platform/Failure.h"
@@ -37,8 +38,11 @@ class CautareCod {
 // starts with it becomes `inlocuire` (when given), a line holding it further
 // on is dropped, and `adaugate` go at the end. Each file is then replaced in
 // one rename, so either stays whole.
-void Rescrie(Files& files, Familie familie, std::string_view an, std::string_view cod,
-             const std::string_view* inlocuire, const std::vector<std::string>& adaugate = {}) {
+// No `cod` keeps every line: the append of a new record, which a crash or a
+// full disk must not leave half written either.
+void Rescrie(Files& files, Familie familie, std::string_view an,
+             std::optional<std::string_view> cod, const std::string_view* inlocuire,
+             const std::vector<std::string>& adaugate = {}) {
   std::string_view fisier = NumeLucru(familie);
   std::string anual = NumeAnual(familie, an);
   constexpr std::string_view kCopieAnuala = "Temporar_anual.txt";
@@ -49,8 +53,12 @@ void Rescrie(Files& files, Familie familie, std::string_view an, std::string_vie
     out.Line(linie);
     copie.Line(linie);
   };
-  if (files.Exists(fisier)) {
-    CautareCod cautare(cod);
+  if (files.Exists(fisier) && !cod) {
+    LineReader in = files.Read(fisier);
+    std::string linie;
+    while (in.Next(linie)) scrie(linie);
+  } else if (files.Exists(fisier)) {
+    CautareCod cautare(*cod);
     LineReader in = files.Read(fisier);
     std::string linie;
     while (in.Next(linie)) {
@@ -66,11 +74,6 @@ void Rescrie(Files& files, Familie familie, std::string_view an, std::string_vie
   copie.Close();
   files.Replace(fisier::Temporar, fisier);
   files.Replace(kCopieAnuala, anual);
-}
-
-void CopiazaAnual(Files& files, Familie familie, std::string_view an) {
-  std::string_view lucru = NumeLucru(familie);
-  if (files.Exists(lucru)) files.Copy(lucru, NumeAnual(familie, an));
 }
 
 bool Contine(const Files& files, std::string_view fisier, std::string_view cod) {
@@ -146,10 +149,7 @@ void SalveazaFF1(Files& files, std::string_view an, std::string_view codCurent,
                  std::string_view recordFF1, long pozitieFF1, const TabelDed& tabel,
                  short nrPersoane) {
   if (pozitieFF1 == 0) {
-    LineWriter out = files.Append(fisier::Ff1);
-    out.Line(recordFF1);
-    out.Close();
-    CopiazaAnual(files, Familie::FF1, an);
+    Rescrie(files, Familie::FF1, an, std::nullopt, nullptr, {std::string(recordFF1)});
   } else {
     Rescrie(files, Familie::FF1, an, codCurent, &recordFF1);
   }
@@ -164,10 +164,7 @@ void SalveazaFF1(Files& files, std::string_view an, std::string_view codCurent,
 void SalveazaFF2(Files& files, std::string_view an, std::string_view codCurent,
                  std::string_view recordFF2, long pozitieFF2) {
   if (pozitieFF2 == 0) {
-    LineWriter out = files.Append(fisier::Ff2);
-    out.Line(recordFF2);
-    out.Close();
-    CopiazaAnual(files, Familie::FF2, an);
+    Rescrie(files, Familie::FF2, an, std::nullopt, nullptr, {std::string(recordFF2)});
   } else {
     Rescrie(files, Familie::FF2, an, codCurent, &recordFF2);
   }

@@ -1,6 +1,7 @@
 // An FF1 sheet typed through the windows, Enter by Enter, and closed with the
 // question answered in its message box: the record is the replay's own.
 #include <QApplication>
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -110,6 +111,24 @@ TEST_F(SheetWindowTest, APartYearSheetTypedInTheWindowsIsStoredAsTheReplayStores
   EXPECT_EQ(test::ReadBytes(dir_ / "Ff1.txt"),
             test::ReadBytes(Replay("ff1_part_year/after/FF1_2002.txt")));
   EXPECT_EQ(test::ReadBytes(dir_ / "FF1_2002.txt"), test::ReadBytes(dir_ / "Ff1.txt"));
+}
+
+TEST_F(SheetWindowTest, TheSpaceBarOnTheCorrectionMarkMovesToTheCodeWithoutMarking) {
+  FisaII& e = app_.fisaII;
+  Click(W(app_.intro.Command1));
+  Click(W(app_.fisaI.Ok_Fisa_II));
+  ASSERT_EQ(Focus(), &e.Option1);
+  Enter();
+  ASSERT_EQ(QApplication::focusWidget(), W(e.Xrectif));
+  test::Key(QApplication::focusWidget(), Qt::Key_Space, " ");
+  Settle();
+  EXPECT_EQ(Focus(), &e.CodS);
+  EXPECT_EQ(QApplication::focusWidget(), W(e.CodS));
+  EXPECT_EQ(e.Xrectif.Value(), 0);
+  EXPECT_FALSE(static_cast<QCheckBox*>(W(e.Xrectif))->isChecked());
+  // In a text box the typed characters still land in the field.
+  Type("17");
+  EXPECT_EQ(e.CodS.Text(), "17");
 }
 
 }  // namespace

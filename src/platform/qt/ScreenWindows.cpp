@@ -514,6 +514,21 @@ void ScreenWindows::Forward(const std::function<void()>& action) {
   Redraw();
 }
 
+bool ScreenWindows::KeyPress(Bound& b, QKeyEvent& key) {
+  // Arrows and the like have no character: the widget moves its caret or
+  // its list, and a list tells the model through its own signal.
+  std::string bytes = key.text().isEmpty() ? std::string() : ToCp1250(key.text());
+  if (bytes.size() != 1) return false;
+  int code = static_cast<unsigned char>(bytes[0]);
+  Control* c = b.control;
+  Forward([this, code] { desktop_.UserKey(code); });
+  // A text box takes the typed character itself, unless the handler sent
+  // the focus elsewhere; every other control has had all of the key.
+  bool text =
+      c->Kind() == ControlKind::TextBox || (c->Kind() == ControlKind::ComboBox && !c->ListOnly());
+  return !(text && code != kKeyEscape && desktop_.Focused() == c && !desktop_.Ended());
+}
+
 bool ScreenWindows::MousePress(Bound& b, QObject* watched, QEvent* event) {
   Control& c = *b.control;
   if (c.Kind() == ControlKind::ListBox) {
@@ -549,7 +564,7 @@ bool ScreenWindows::eventFilter(QObject* watched, QEvent* event) {
         case Qt::Key_Enter: Forward([this] { desktop_.UserEnter(); }); return true;
         case Qt::Key_Tab: Forward([this] { desktop_.UserTab(); }); return true;
         case Qt::Key_Backtab: Forward([this] { desktop_.UserBackTab(); }); return true;
-        default: return false;
+        default: return KeyPress(*b, *key);
       }
     }
     case QEvent::MouseButtonPress:

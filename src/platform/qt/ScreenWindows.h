@@ -11,6 +11,8 @@
 
 class QWidget;
 
+class QKeyEvent;
+
 namespace fisc {
 
 class Control;
@@ -51,6 +53,9 @@ class ScreenWindows : public QObject {
   void DrawItems(Bound& bound);
   void PlaceFocus();
   bool MousePress(Bound& bound, QObject* watched, QEvent* event);
+  // A key with a character goes to the model's KeyPress; true when the
+  // widget must not see it too.
+  bool KeyPress(Bound& bound, QKeyEvent& key);
   // Runs one action of a person through the desktop, then redraws.
   void Forward(const std::function<void()>& action);
 
