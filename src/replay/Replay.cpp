@@ -4,9 +4,7 @@
 #include <iostream>
 #include <sstream>
 
-#include "app/Aplicatie.h"
-#include "platform/headless/HeadlessPrinter.h"
-#include "platform/headless/HeadlessServices.h"
+#include "replay/HeadlessProgram.h"
 #include "replay/ScriptLine.h"
 
 namespace fisc {
@@ -37,19 +35,11 @@ bool HasCaption(ControlKind k) {
 class Driver {
  public:
   Driver(const ReplayOptions& options, std::ostream& out)
-      : out_(out),
-        files_(options.workdir),
-        drive_(options.drive),
-        printer_(options.workdir, options.pdfPrinter),
-        platforma_{files_, dialogs_, clock_, launcher_, drive_, printer_},
-        app_(platforma_) {
+      : out_(out), program_(options.workdir, options.drive, options.pdfPrinter) {
     auto report = [this](const std::string& line) { out_ << line << '\n'; };
     dialogs_.Report = report;
     launcher_.Report = report;
     printer_.Report = report;
-    // The converter runs and is waited for: the script's next action comes
-    // after its window would have closed.
-    launcher_.workdir = options.workdir;
     app_.Ecran().OnFatal = [this](const RuntimeFailure& f) {
       out_ << "fatal " << f.number() << ' ' << Quote(f.description()) << '\n';
     };
@@ -266,14 +256,11 @@ class Driver {
   }
 
   std::ostream& out_;
-  Files files_;
-  HeadlessDialogs dialogs_;
-  HeadlessClock clock_;
-  HeadlessLauncher launcher_;
-  Drive drive_;
-  HeadlessPrinter printer_;
-  Platforma platforma_;
-  Aplicatie app_;
+  HeadlessProgram program_;
+  HeadlessDialogs& dialogs_ = program_.dialogs;
+  HeadlessLauncher& launcher_ = program_.launcher;
+  HeadlessPrinter& printer_ = program_.printer;
+  Aplicatie& app_ = program_.app;
 };
 
 }  // namespace

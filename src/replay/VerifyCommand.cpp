@@ -3,9 +3,7 @@
 #include <iostream>
 #include <string>
 
-#include "app/Aplicatie.h"
-#include "platform/headless/HeadlessPrinter.h"
-#include "platform/headless/HeadlessServices.h"
+#include "replay/HeadlessProgram.h"
 
 namespace fisc {
 
@@ -23,15 +21,7 @@ std::string Linii(std::string_view text) {
 
 class RulareVerificare {
  public:
-  explicit RulareVerificare(const VerifyOptions& o)
-      : files_(o.workdir),
-        drive_(o.drive),
-        printer_(o.workdir),
-        platforma_{files_, dialogs_, clock_, launcher_, drive_, printer_},
-        app_(platforma_) {
-    // The converter runs and is waited for: "Lista erori" comes after it.
-    launcher_.workdir = o.workdir;
-  }
+  explicit RulareVerificare(const VerifyOptions& o) : program_(o.workdir, o.drive) {}
 
   int Run(const VerifyOptions& o, std::ostream& out, std::ostream& err) {
     if (!app_.Porneste()) {
@@ -98,14 +88,10 @@ class RulareVerificare {
     return app_.Ecran().Fatal() ? Fatal(err) : 2;
   }
 
-  Files files_;
-  HeadlessDialogs dialogs_;
-  HeadlessClock clock_;
-  HeadlessLauncher launcher_;
-  Drive drive_;
-  HeadlessPrinter printer_;
-  Platforma platforma_;
-  Aplicatie app_;
+  HeadlessProgram program_;
+  Files& files_ = program_.files;
+  HeadlessDialogs& dialogs_ = program_.dialogs;
+  Aplicatie& app_ = program_.app;
 };
 
 }  // namespace
