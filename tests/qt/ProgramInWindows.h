@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <filesystem>
 #include <initializer_list>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include "app/Aplicatie.h"
@@ -18,6 +20,11 @@
 #include "support/TestSupport.h"
 
 namespace fisc::test {
+
+// A file of a replay case, whose bytes the windows must give too.
+inline std::filesystem::path ReplayCase(std::string_view cale) {
+  return DataDir() / ".." / "tests" / "replay" / std::string(cale);
+}
 
 class ProgramInWindows : public ::testing::Test {
  protected:
@@ -36,6 +43,7 @@ class ProgramInWindows : public ::testing::Test {
   }
 
   QWidget* W(Control& c) { return windows_.WidgetOf(c); }
+  Control* Focus() { return app_.Ecran().Focused(); }
 
   TempDir dir_;
   Files files_;

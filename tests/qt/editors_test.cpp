@@ -16,13 +16,8 @@ using test::Press;
 using test::Settle;
 using test::Type;
 
-std::filesystem::path Replay(std::string_view cale) {
-  return test::DataDir() / ".." / "tests" / "replay" / std::string(cale);
-}
-
 class EditorsWindowTest : public test::ProgramInWindows {
  protected:
-  Control* Focus() { return app_.Ecran().Focused(); }
   void Enter() {
     Press(Qt::Key_Return);
     Settle();
@@ -96,7 +91,7 @@ TEST_F(EditorsWindowTest, JanuarysTableChangedWithEnterAloneIsWrittenAsTheReplay
   Settle();
   EXPECT_FALSE(windows_.WindowOf(f)->isVisible());
   EXPECT_EQ(test::ReadBytes(dir_ / "Impozitar.txt"),
-            test::ReadBytes(Replay("impozitar_month_changed/after/Impozitar.txt")));
+            test::ReadBytes(test::ReplayCase("impozitar_month_changed/after/Impozitar.txt")));
 }
 
 TEST_F(EditorsWindowTest, TheDeductionsTypedAtTheKeyboardAreSavedAsTheReplaySavesThem) {
@@ -139,7 +134,7 @@ TEST_F(EditorsWindowTest, TheDeductionsTypedAtTheKeyboardAreSavedAsTheReplaySave
   Enter();
   EXPECT_FALSE(windows_.WindowOf(f)->isVisible());
   EXPECT_EQ(test::ReadBytes(dir_ / "Cuantum.txt"),
-            test::ReadBytes(Replay("cuantum_edited_and_read_back/after/Cuantum.txt")));
+            test::ReadBytes(test::ReplayCase("cuantum_edited_and_read_back/after/Cuantum.txt")));
   EXPECT_EQ(app_.StareComuna().Parametri.CoefMaxim, "2.5");
 }
 

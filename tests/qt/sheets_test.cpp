@@ -24,16 +24,12 @@ using test::Press;
 using test::Settle;
 using test::Type;
 
-std::filesystem::path Replay(std::string_view cale) {
-  return test::DataDir() / ".." / "tests" / "replay" / std::string(cale);
-}
-
 class SheetWindowTest : public test::ProgramInWindows {
  protected:
   SheetWindowTest()
-      : ProgramInWindows({{Replay("ff1_part_year/before/Rep_2002.txt"), "Rep_2002.txt"}}) {}
+      : ProgramInWindows(
+            {{test::ReplayCase("ff1_part_year/before/Rep_2002.txt"), "Rep_2002.txt"}}) {}
 
-  Control* Focus() { return app_.Ecran().Focused(); }
   // Enter in the focused widget, then the text of the next field.
   void Enter(const QString& text = {}) {
     Press(Qt::Key_Return);
@@ -109,7 +105,7 @@ TEST_F(SheetWindowTest, APartYearSheetTypedInTheWindowsIsStoredAsTheReplayStores
   EXPECT_FALSE(windows_.WindowOf(f)->isVisible());
   EXPECT_TRUE(windows_.WindowOf(e)->isVisible());
   EXPECT_EQ(test::ReadBytes(dir_ / "Ff1.txt"),
-            test::ReadBytes(Replay("ff1_part_year/after/FF1_2002.txt")));
+            test::ReadBytes(test::ReplayCase("ff1_part_year/after/FF1_2002.txt")));
   EXPECT_EQ(test::ReadBytes(dir_ / "FF1_2002.txt"), test::ReadBytes(dir_ / "Ff1.txt"));
 }
 
