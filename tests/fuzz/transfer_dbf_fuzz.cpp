@@ -2,8 +2,6 @@
 // which of the four <x>_2002.dbf the rest becomes; the other three are the
 // empty templates. A list of faults in ferr.txt is an outcome, as is a
 // run-time failure.
-#include <filesystem>
-
 #include "fuzz/FuzzSupport.h"
 #include "platform/Failure.h"
 #include "platform/Files.h"
@@ -11,8 +9,9 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace fisc;
-  namespace fs = std::filesystem;
   static const char* const kTipuri[] = {"Rep", "FF1", "FF2", "Ded"};
+  static const std::string kSabloane[] = {fuzz::Livrat("Rep.dbf"), fuzz::Livrat("FF1.dbf"),
+                                          fuzz::Livrat("FF2.dbf"), fuzz::Livrat("Ded.dbf")};
   if (size == 0) return 0;
   const int ales = data[0] % 4;
   for (int i = 0; i < 4; ++i) {
@@ -20,8 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (i == ales) {
       fuzz::ScrieFisier(nume, fuzz::Text(data + 1, size - 1));
     } else {
-      fs::copy_file(fs::path(FISC_FUZZ_DATA) / (std::string(kTipuri[i]) + ".dbf"),
-                    fuzz::Director() / nume, fs::copy_options::overwrite_existing);
+      fuzz::ScrieFisier(nume, kSabloane[i]);
     }
   }
   Files files(fuzz::Director());

@@ -17,10 +17,8 @@ struct Parametri {
   fisc::ParametriAn an;
   fisc::TabelImpozit tabel;
   Parametri() {
-    namespace fs = std::filesystem;
     for (const char* nume : {"Cuantum.txt", "Impozitar.txt"})
-      fs::copy_file(fs::path(FISC_FUZZ_DATA) / nume, fisc::fuzz::Director() / nume,
-                    fs::copy_options::overwrite_existing);
+      fisc::fuzz::ScrieFisier(nume, fisc::fuzz::Livrat(nume));
     fisc::Files files(fisc::fuzz::Director());
     fisc::IncarcaCuantum(files, an);
     fisc::IncarcaImpozitar(files, tabel);
