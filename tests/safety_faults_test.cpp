@@ -13,32 +13,22 @@
 
 #include "app/Discheta.h"
 #include "app/Schimb.h"
+#include "params/Cuantum.h"
+#include "params/Impozitar.h"
+#include "platform/headless/HeadlessServices.h"
 #include "sheets/RecordDed.h"
 #include "sheets/Stocare.h"
 #include "support/Ecrane.h"
+#include "verify/Verificare.h"
+#include "yearops/PreluareAnPrecedent.h"
+#include "yearops/RegularizareAnuala.h"
+#include "yearops/Subdirector.h"
+#include "yearops/UnireDischete.h"
 
 namespace fisc {
 namespace {
 
 namespace fs = std::filesystem;
-
-// Fails the k-th operation that changes the disk (k from 1), and with
-// `ramane` every later one too, as a full disk stays full.
-class PlanDefect : public FaultPlan {
- public:
-  PlanDefect(int k, int eroare, bool ramane) : k_(k), eroare_(eroare), ramane_(ramane) {}
-  int Before(FileOp, const fs::path&) override {
-    ++numarate;
-    if (k_ == 0 || numarate < k_ || (numarate > k_ && !ramane_)) return 0;
-    ++lovite;
-    return eroare_;
-  }
-  int numarate = 0, lovite = 0;
-
- private:
-  int k_, eroare_;
-  bool ramane_;
-};
 
 // The files of a folder and its subfolders by relative name; work files,
 // which a failure may leave behind, are left out.
@@ -47,7 +37,7 @@ using Instantaneu = std::map<std::string, std::string>;
 bool FisierDeLucru(const std::string& nume) {
   std::string leaf = fs::path(nume).filename().string();
   return leaf == "Temporar.txt" || leaf == "Temporar_anual.txt" || leaf == "temp1.txt" ||
-         leaf.starts_with(".~");
+         leaf.starts_with(".~") || leaf.ends_with("_r.txt") || leaf.ends_with("_u.txt");
 }
 
 Instantaneu Fotografiaza(const fs::path& dir) {
@@ -59,6 +49,28 @@ Instantaneu Fotografiaza(const fs::path& dir) {
   }
   return s;
 }
+
+// Fails the k-th operation that changes the disk (k from 1), and with
+// `ramane` every later one too, as a full disk stays full.
+class PlanDefect : public FaultPlan {
+ public:
+  PlanDefect(int k, int eroare, bool ramane) : k_(k), eroare_(eroare), ramane_(ramane) {}
+  int Before(FileOp, const fs::path&) override {
+    if (!director.empty()) stari.push_back(Fotografiaza(director));
+    ++numarate;
+    if (k_ == 0 || numarate < k_ || (numarate > k_ && !ramane_)) return 0;
+    ++lovite;
+    return eroare_;
+  }
+  int numarate = 0, lovite = 0;
+  // When set, the folder as it was before each operation.
+  fs::path director;
+  std::vector<std::map<std::string, std::string>> stari;
+
+ private:
+  int k_, eroare_;
+  bool ramane_;
+};
 
 // What one attempt at an action left.
 struct Incercare {
@@ -85,17 +97,40 @@ using Asteptare = std::function<void(const Incercare&, int eroare)>;
 void Propaga(const Incercare& r, int eroare) { EXPECT_EQ(r.esec, NumarulEsecului(eroare)); }
 void TreceMaiDeparte(const Incercare& r, int) { EXPECT_EQ(r.esec, 0); }
 
+// A state of a file, other than as before or as after, that the action may
+// rightly leave after a failure it steps over.
+using AltaStare =
+    std::function<bool(const std::string& nume, const std::optional<std::string>& acum,
+                       const std::optional<std::string>& dupa)>;
+
+struct Erori {
+  int eroare;
+  bool ramane;
+};
+constexpr std::initializer_list<Erori> kToateErorile = {
+    {ENOSPC, false}, {ENOSPC, true}, {EACCES, false}, {EIO, false}};
+
 // Walks k = 1, 2, ... over every operation of the action, with each error,
 // once alone and once for good.
-void LaFiecarePas(const Scenariu& scenariu, const Asteptare& asteptare) {
+// With `treceri`, a file may also stay as the whole action had it between two
+// of its operations: a pass of several rewrites, each one whole.
+void LaFiecarePas(const Scenariu& scenariu, const Asteptare& asteptare,
+                  std::initializer_list<Erori> erori = kToateErorile, AltaStare alta = nullptr,
+                  bool treceri = false) {
   PlanDefect numarator(0, 0, false);
+  numarator.director = treceri ? fs::path("?") : fs::path();
   Incercare curat = scenariu(numarator);
+  std::map<std::string, std::set<std::optional<std::string>>> trecute;
+  for (const Instantaneu& stare : numarator.stari) {
+    for (const auto& [n, continut] : stare) trecute[n].insert(continut);
+    for (const auto& [n, _] : curat.dupa)
+      if (!stare.count(n)) trecute[n].insert(std::nullopt);
+  }
   ASSERT_EQ(curat.esec, 0);
   ASSERT_NE(curat.inainte, curat.dupa) << "the action changes nothing";
   ASSERT_GT(numarator.numarate, 0);
   // A full disk stays full; a refused access or a device error may pass.
-  for (auto [eroare, ramane] : {std::pair{ENOSPC, false}, std::pair{ENOSPC, true},
-                                std::pair{EACCES, false}, std::pair{EIO, false}}) {
+  for (auto [eroare, ramane] : erori) {
     for (int k = 1; k <= numarator.numarate; ++k) {
       SCOPED_TRACE("error " + std::to_string(eroare) + (ramane ? " for good" : " once") +
                    " at operation " + std::to_string(k));
@@ -112,7 +147,9 @@ void LaFiecarePas(const Scenariu& scenariu, const Asteptare& asteptare) {
           return it == s.end() ? std::nullopt : std::optional(it->second);
         };
         auto acum = stare(r.dupa);
-        EXPECT_TRUE(acum == stare(curat.inainte) || acum == stare(curat.dupa))
+        EXPECT_TRUE(acum == stare(curat.inainte) || acum == stare(curat.dupa) ||
+                    (alta && alta(n, acum, stare(curat.dupa))) ||
+                    (trecute.count(n) && trecute[n].count(acum)))
             << n
             << " is neither as before nor as after: " << (acum ? "\"" + *acum + "\"" : "missing");
       }
@@ -162,6 +199,8 @@ Scenariu PeDirector(std::function<void(Files&)> actiune,
     Files files(dir.path());
     Incercare r;
     r.inainte = Fotografiaza(dir.path());
+    if (auto* martor = dynamic_cast<PlanDefect*>(&plan); martor && !martor->director.empty())
+      martor->director = dir.path();
     files.SetFaultPlan(&plan);
     r.esec = test::FailureOf([&] { actiune(files); });
     r.dupa = Fotografiaza(dir.path());
@@ -285,6 +324,126 @@ TEST(FailingDisk, TheDisketteSaveSaysWhatWentWrongOnlyForAFullDisk) {
                  if (eroare == ENOSPC) mesaje.push_back("Eroare 61. Discheta plina. ");
                  EXPECT_EQ(r.mesaje, mesaje);
                });
+}
+
+// The delivered parameters, as a run has them loaded.
+struct Parametri {
+  ParametriAn an;
+  TabelImpozit tabel;
+  Parametri() {
+    Files data(test::DataDir());
+    IncarcaCuantum(data, an);
+    IncarcaImpozitar(data, tabel);
+  }
+};
+
+// The list of errors grows as the checks run and the sorted copies are the
+// pass's own work: when the program ends halfway they hold what was done.
+bool Raport(const std::string& nume, const std::optional<std::string>&,
+            const std::optional<std::string>&) {
+  return nume == "erori.txt" || nume.ends_with("_sort.txt");
+}
+
+TEST(FailingDisk, TheWholeCheckPassLeavesEachFileWhole) {
+  const fs::path caz = test::DataDir().parent_path() / "tests" / "verify" / "inregistrari";
+  Parametri p;
+  LaFiecarePas(PeDirector([&](Files& f) { but_verif(f, p.an, p.tabel); },
+                          [&](const test::TempDir& dir) {
+                            for (const auto& e : fs::directory_iterator(caz / "before"))
+                              fs::copy_file(e.path(), dir.path() / e.path().filename());
+                          }),
+               Propaga, kToateErorile, Raport, true);
+}
+
+TEST(FailingDisk, TheRegularisationOfEverySheetLeavesFf1Whole) {
+  Parametri p;
+  const fs::path caz = test::DataDir().parent_path() / "tests" / "verify" / "regularizare";
+  LaFiecarePas(PeDirector(
+                   [&](Files& f) {
+                     ASSERT_EQ(RegularizeazaToate(f, p.an, p.tabel),
+                               RezultatRegularizare::Efectuata);
+                   },
+                   [&](const test::TempDir& dir) {
+                     DirectorInLucru(dir);
+                     fs::copy_file(caz / "before" / "Ff1.txt", dir.path() / "Ff1.txt",
+                                   fs::copy_options::overwrite_existing);
+                   }),
+               Propaga);
+}
+
+TEST(FailingDisk, TheTakeoverOfLastYearLeavesEachFileWhole) {
+  LaFiecarePas(PeDirector([](Files& f) { PreiaAnPrecedent(f, "2002"); }), Propaga, kToateErorile);
+}
+
+// What a merge adds stays when it stops: a working file holds the start of
+// what the whole merge gives.
+bool Inceput(const std::string&, const std::optional<std::string>& acum,
+             const std::optional<std::string>& dupa) {
+  return acum && dupa && dupa->starts_with(*acum);
+}
+
+TEST(FailingDisk, TheMergeOfOneDisketteStopsWithWholeFiles) {
+  test::TempDir disc;
+  const fs::path a = disc / "a";
+  fs::create_directories(a);
+  test::WriteBytes(a / "Rep_2002.txt", std::string(test::kAngajator));
+  test::WriteBytes(a / "FF1_2002.txt", test::Lines({kFF1B}));
+  test::WriteBytes(a / "FF2_2002.txt", test::Lines({kFF2A}));
+  test::WriteBytes(a / "Ded_2002.txt", test::Lines({kDedB}));
+  LaFiecarePas(
+      [&](FaultPlan& plan) {
+        test::TempDir dir;
+        DirectorInLucru(dir);
+        Files files(dir.path());
+        HeadlessDialogs dialogs;
+        for (Answer raspuns : {Answer::Yes, Answer::No, Answer::No}) dialogs.QueueAnswer(raspuns);
+        HeadlessClock clock;
+        Drive drive(a);
+        Incercare r;
+        r.inainte = Fotografiaza(dir.path());
+        files.SetFaultPlan(&plan);
+        std::optional<RezultatUnire> unire;
+        r.esec =
+            test::FailureOf([&] { unire = UnesteDischete(files, drive, dialogs, clock, "2002"); });
+        r.dupa = Fotografiaza(dir.path());
+        if (!unire && r.esec == 0) r.mesaje.push_back("oprita");
+        return r;
+      },
+      [](const Incercare& r, int) {
+        EXPECT_EQ(r.esec, 0);
+        EXPECT_EQ(r.mesaje, std::vector<std::string>{"oprita"});
+      },
+      kToateErorile, Inceput);
+}
+
+// The save and the restore step over every failure; a file that could not
+// be copied is missing (the save deletes first) or empty (the restore).
+TEST(FailingDisk, TheSaveInTheEmployersFolderStepsOverEveryFailure) {
+  LaFiecarePas(
+      PeDirector([](Files& f) { SalveazaInSubdirector(f, "2002"); },
+                 [](const test::TempDir& dir) {
+                   DirectorInLucru(dir);
+                   fs::create_directory(dir / "J12345674");
+                   test::WriteBytes(dir / "J12345674" / "FF1_2002.txt", "SALVAT\r\n");
+                 }),
+      TreceMaiDeparte, kToateErorile,
+      [](const std::string& nume, const std::optional<std::string>& acum,
+         const std::optional<std::string>&) { return nume.starts_with("J12345674/") && !acum; });
+}
+
+TEST(FailingDisk, TheRestoreFromTheEmployersFolderStepsOverEveryFailure) {
+  LaFiecarePas(PeDirector([](Files& f) { Restaureaza(f, "12345674", "2002"); },
+                          [](const test::TempDir& dir) {
+                            DirectorInLucru(dir);
+                            fs::create_directory(dir / "J12345674");
+                            test::WriteBytes(dir / "J12345674" / "FF1_2002.txt",
+                                             test::Lines({kFF1B}));
+                            test::WriteBytes(dir / "J12345674" / "Rep_2002.txt",
+                                             std::string(test::kAngajator));
+                          }),
+               TreceMaiDeparte, kToateErorile,
+               [](const std::string&, const std::optional<std::string>& acum,
+                  const std::optional<std::string>&) { return acum && acum->empty(); });
 }
 
 }  // namespace

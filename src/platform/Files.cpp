@@ -333,6 +333,11 @@ void Files::MakeDirectory(std::string_view name) {
   if (::mkdir(Path(name).c_str(), 0777) != 0) FailFromErrno(errno);
 }
 
-Files Files::Subdirectory(std::string_view name) const { return Files(Path(name)); }
+// A subfolder is the same disk: it fails as the folder does.
+Files Files::Subdirectory(std::string_view name) const {
+  Files sub(Path(name));
+  sub.SetFaultPlan(faults_);
+  return sub;
+}
 
 }  // namespace fisc

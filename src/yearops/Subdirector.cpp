@@ -69,8 +69,9 @@ RezultatRestaurare Restaureaza(Files& files, std::string_view cod, std::string_v
     std::string salvat = NumeAnual(p.familie, an);
     // Each working file passes straight from its old content to the saved
     // one, or to empty when there is none or it can't be copied.
-    bool copiat = sub.Exists(salvat) &&
-                  Incearca([&] { CopyFileAtomic(sub.Path(salvat), files.Path(p.lucru)); });
+    bool copiat = sub.Exists(salvat) && Incearca([&] {
+                    CopyFileAtomic(sub.Path(salvat), files.Path(p.lucru), files.Faults());
+                  });
     if (!copiat) Incearca([&] { files.CreateEmpty(p.lucru); });
   }
   return RezultatRestaurare::Efectuata;
@@ -92,7 +93,9 @@ RezultatSalvare SalveazaInSubdirector(Files& files, std::string_view an) {
   Files sub = files.Subdirectory(nume);
   for (const Pereche& p : kPerechi) Incearca([&] { sub.DeleteIfExists(NumeAnual(p.familie, an)); });
   for (const Pereche& p : kPerechi)
-    Incearca([&] { CopyFileAtomic(files.Path(p.lucru), sub.Path(NumeAnual(p.familie, an))); });
+    Incearca([&] {
+      CopyFileAtomic(files.Path(p.lucru), sub.Path(NumeAnual(p.familie, an)), files.Faults());
+    });
   r.stare = RezultatSalvare::Efectuata;
   return r;
 }

@@ -106,7 +106,8 @@ std::optional<RezultatUnire> UnesteDischete(Files& files, const Drive& drive, Di
         std::string_view tinta = lot.dischetaPrin.empty() ? lot.inLucru : lot.dischetaPrin;
         Reincearca(dialogs, [&] {
           Files discheta = Discheta(drive);
-          if (discheta.Exists(nume)) CopyFileAtomic(discheta.Path(nume), files.Path(tinta));
+          if (discheta.Exists(nume))
+            CopyFileAtomic(discheta.Path(nume), files.Path(tinta), files.Faults());
         });
       }
       AdaugaLinii(files, dialogs, "Ff1_r.txt", "Ff1_u.txt", &r.FF1);
@@ -117,6 +118,10 @@ std::optional<RezultatUnire> UnesteDischete(Files& files, const Drive& drive, Di
       Reincearca(dialogs, [&] { files.CreateEmpty("Ded_r.txt"); });
       clock.Wait(std::chrono::seconds(3));
     }
+    // A failure here too ends the merge with what was added in place.
+    PuneInLoc(files);
+    for (const Lot& lot : kLoturi)
+      if (!lot.dischetaPrin.empty()) files.DeleteIfExists(lot.dischetaPrin);
   } catch (const RuntimeFailure&) {
     // What was added so far stays, as the working files had it when the
     // merge stopped.
@@ -128,9 +133,6 @@ std::optional<RezultatUnire> UnesteDischete(Files& files, const Drive& drive, Di
     }
     return std::nullopt;
   }
-  PuneInLoc(files);
-  for (const Lot& lot : kLoturi)
-    if (!lot.dischetaPrin.empty()) files.DeleteIfExists(lot.dischetaPrin);
   return r;
 }
 

@@ -39,6 +39,19 @@ inline void ScrieFisier(std::string_view nume, std::string_view bytes) {
   std::fclose(f);
 }
 
+// A delivered file of data/, read whole. The fuzz timer's signal may break
+// a copy between files, so the targets write these bytes themselves.
+inline std::string Livrat(std::string_view nume) {
+  std::string bytes;
+  std::FILE* f =
+      std::fopen((std::filesystem::path(FISC_FUZZ_DATA) / std::string(nume)).c_str(), "rb");
+  if (!f) return bytes;
+  char buf[4096];
+  for (std::size_t n; (n = std::fread(buf, 1, sizeof buf, f)) > 0;) bytes.append(buf, n);
+  std::fclose(f);
+  return bytes;
+}
+
 inline std::string_view Text(const std::uint8_t* data, std::size_t size) {
   return {reinterpret_cast<const char*>(data), size};
 }
