@@ -38,11 +38,8 @@ std::string Luna(std::string_view baza, int luna) {
   return std::string(baza) + numar;
 }
 
-// Fields 1 to 13 of FF1 and FF2: code, names, address.
-void Antet(Campuri& c) {
-  Cod(c, "CODS", 13);
-  Text(c, "NUMES", 40);
-  Text(c, "PRENS", 40);
+// The address of the employer and of an employee, in the same fields.
+void Adresa(Campuri& c) {
   Text(c, "LOCALIT", 50);
   Text(c, "JUDET", 15, " ");
   Text(c, "STRADA", 50);
@@ -55,6 +52,14 @@ void Antet(Campuri& c) {
   Cod(c, "SECTOR", 1);
 }
 
+// Fields 1 to 13 of FF1 and FF2: code, names, address.
+void Antet(Campuri& c) {
+  Cod(c, "CODS", 13);
+  Text(c, "NUMES", 40);
+  Text(c, "PRENS", 40);
+  Adresa(c);
+}
+
 Campuri CampuriRep() {
   Campuri c;
   Cod(c, "CODP", 13);
@@ -62,16 +67,7 @@ Campuri CampuriRep() {
   Text(c, "DENP", 160);
   Text(c, "NUMEP", 40);
   Text(c, "PRENP", 40);
-  Text(c, "LOCALIT", 50);
-  Text(c, "JUDET", 15, " ");
-  Text(c, "STRADA", 50);
-  Text(c, "NUMAR", 10);
-  Cod(c, "CODPOSTAL", 6);
-  Text(c, "BLOC", 10);
-  Text(c, "SCARA", 10);
-  Text(c, "ETAJ", 10);
-  Text(c, "APART", 10);
-  Cod(c, "SECTOR", 1);
+  Adresa(c);
   Text(c, "TELEFON", 10);
   Text(c, "EMAIL", 50);
   return c;
